@@ -1,0 +1,66 @@
+#pragma once
+// Der ganze geteilte Zustand des Programms in einem Objekt: die Tabelle, je Teilsystem eine
+// Struktur und die Dienste nach außen. Jede Routine nimmt ihn als ersten Parameter.
+#include "app/DateiInfo.h"
+#include "app/Datum.h"
+#include "app/Dienste.h"
+#include "app/EinsBasiert.h"
+#include "app/Oberflaeche.h"
+#include "index/IndexOptionen.h"
+#include "intake/AufnahmeZustand.h"
+#include "player/SpielerZustand.h"
+#include "search/SuchZustand.h"
+#include "settings/Einstellungen.h"
+#include "shell/FortschrittZustand.h"
+
+#include <cstdint>
+#include <string>
+
+// Programmtitel für Meldungen, Einstellungen und Fenster.
+inline constexpr const char* ProgrammTitel = "Klangkartei";
+// "Klangkartei 1.0"
+std::string ProgrammTitelMitVersion();
+
+struct Dienste {
+    Oberfläche& ui;
+    Registrierung& registrierung;
+    Spielerfenster& spieler;
+    Shell& shell;
+    Datenträger& datenträger;
+    Uhr& uhr;
+    Zufall& zufall;
+};
+
+struct Kartei {
+    explicit Kartei(const Dienste& d)
+        : ui(d.ui), registrierung(d.registrierung), spieler(d.spieler), shell(d.shell),
+          datenträger(d.datenträger), uhr(d.uhr), zufall(d.zufall) {}
+    Kartei(const Kartei&) = delete;
+    Kartei& operator=(const Kartei&) = delete;
+
+    // Die Tabelle: drei parallele Felder ab 1, immer mit gleicher Obergrenze.
+    EinsBasiert<std::string> DateiPfade;
+    EinsBasiert<DateiInfo> DateiDaten;
+    EinsBasiert<int16_t> DateiTreffer;
+    int32_t DateiAnzahl = 0;
+    bool DateiGeändert = false;
+
+    std::string Dateiname;          // Pfad des offenen Index
+    Datum LetzteSpeicherung;        // Programmstart bzw. letzte Speicherung
+
+    IndexOptionen Optionen;
+    Einstellungen E;
+    SuchZustand Suche;
+    ListenZustand Liste;
+    SpielerZustand Spieler;
+    AufnahmeZustand Aufnahme;
+    FortschrittZustand Fortschritt;
+
+    Oberfläche& ui;
+    Registrierung& registrierung;
+    Spielerfenster& spieler;
+    Shell& shell;
+    Datenträger& datenträger;
+    Uhr& uhr;
+    Zufall& zufall;
+};

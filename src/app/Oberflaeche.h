@@ -1,0 +1,60 @@
+#pragma once
+// Was eine Routine von der Person verlangen darf: Meldungen, Fragen, Titeltexte, Fortschritt.
+// Das Fenster zeigt echte Dialoge, die Kommandozeile fragt über Schalter, Tests über ein Skript.
+#include <cstdint>
+#include <string>
+#include <vector>
+
+// Schalter der Meldungsfenster und ihre Antworten.
+namespace Meldung {
+constexpr int Ausrufezeichen = 48;     // OK, Ausrufezeichen
+constexpr int Information = 64;        // OK, Information
+constexpr int JaNeinAusruf = 52;       // Ja/Nein, Ausrufezeichen
+constexpr int JaNeinFrage = 36;        // Ja/Nein, Frage
+constexpr int JaNeinAbbrechen = 35;    // Ja/Nein/Abbrechen, Frage
+constexpr int JaNeinStopp = 308;       // Ja/Nein, Stopp, zweiter Knopf vorgewählt
+constexpr int Ok = 1, Abbrechen = 2, Ja = 6, Nein = 7;
+}  // namespace Meldung
+
+// Was das Fortschrittsfenster gerade zeigen soll (die Logik dazu steht im Kern).
+struct FortschrittAnsicht {
+    bool offen = false;
+    std::string titel;
+    std::string vorgang;           // lblVorgang
+    bool balkenSichtbar = false;
+    int32_t balkenBreite = 0;      // 0..4500
+    bool prozessSichtbar = false;
+    std::string prozess;           // lblProzess
+    bool abbrechenSichtbar = false;
+};
+
+// Antworten der Frage "Datei nicht verfügbar".
+enum class NichtVerfügbarAntwort { Weiter = 0, Überspringen = 1, Abbrechen = 2, AlleÜberspringen = 3 };
+
+class Oberfläche {
+public:
+    virtual ~Oberfläche() = default;
+
+    // Meldungsfenster mit Schaltern (siehe Meldung::); Ergebnis ist der gedrückte Knopf.
+    virtual int MeldungZeigen(const std::string& text, int schalter) = 0;
+    // Statustext im Fenstertitel, nach verzögerungMs Millisekunden.
+    virtual void TitelNachrichtZeigen(const std::string& text, int32_t verzögerungMs) = 0;
+    // Ereignisse laufen lassen (DoEvents).
+    virtual void EreignisseVerarbeiten() = 0;
+    // Das Fortschrittsfenster so darstellen, wie der Kern es beschreibt.
+    virtual void FortschrittDarstellen(const FortschrittAnsicht& ansicht) = 0;
+
+    // --- Modale Fragen; jede Frage eine Methode ---
+    // Datei oder Datenträger fehlt. mediumBezeichnung: erwarteter Datenträger (kann leer sein).
+    // dateiDaPrüfen meldet, ob die Datei inzwischen da ist (die Antwort kann von selbst kommen).
+    virtual NichtVerfügbarAntwort DateiNichtVerfügbar(const std::string& pfad,
+                                                      const std::string& mediumBezeichnung) = 0;
+    // Einen Namen eingeben (Text vorbelegt, Auswahl ab 1-basiertem Zeichen); false = Abbrechen.
+    virtual bool NamenEingeben(const std::string& titel, const std::string& knopf, std::string& text,
+                               int32_t auswahlStart, int32_t auswahlLänge) = 0;
+    // Einen Ordner wählen; false = Abbrechen.
+    virtual bool OrdnerWählen(const std::string& titel, std::string& ordner) = 0;
+    // Dateien wählen (Filter "Name|*.mp3;*.ogg|..."); false = Abbrechen.
+    virtual bool DateienWählen(const std::string& titel, const std::string& filter,
+                               std::vector<std::string>& dateien) = 0;
+};

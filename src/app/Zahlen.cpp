@@ -1,0 +1,113 @@
+#include "app/Zahlen.h"
+
+#include <cmath>
+#include <cstdio>
+#include <limits>
+
+namespace {
+struct Zerlegt {
+    bool negativ = false;
+    std::string ganz, bruch;
+};
+
+// Zerlegt nach der IsNumeric-Regel; false, wenn der Text nicht passt.
+bool Zerlegen(std::string_view t, Zerlegt& z) {
+    size_t i = 0, n = t.size();
+    while (i < n && t[i] == ' ') ++i;
+    if (i < n && (t[i] == '+' || t[i] == '-')) {
+        z.negativ = t[i] == '-';
+        ++i;
+        while (i < n && t[i] == ' ') ++i;
+    }
+    while (i < n && t[i] >= '0' && t[i] <= '9') z.ganz.push_back(t[i++]);
+    if (i < n && (t[i] == '.' || t[i] == ',')) {
+        ++i;
+        while (i < n && t[i] >= '0' && t[i] <= '9') z.bruch.push_back(t[i++]);
+    }
+    while (i < n && t[i] == ' ') ++i;
+    return i == n && !(z.ganz.empty() && z.bruch.empty());
+}
+
+std::string Gruppieren(const std::string& ziffern) {
+    std::string aus;
+    int zähler = static_cast<int>(ziffern.size());
+    for (char c : ziffern) {
+        aus.push_back(c);
+        if (--zähler > 0 && zähler % 3 == 0) aus.push_back('.');
+    }
+    return aus;
+}
+}  // namespace
+
+bool IstNumerisch(std::string_view text) {
+    Zerlegt z;
+    return Zerlegen(text, z);
+}
+
+std::optional<double> ZahlWert(std::string_view text) {
+    Zerlegt z;
+    if (!Zerlegen(text, z)) return std::nullopt;
+    std::string klar = (z.ganz.empty() ? "0" : z.ganz) + "." + (z.bruch.empty() ? "0" : z.bruch);
+    double w = std::strtod(klar.c_str(), nullptr);
+    return z.negativ ? -w : w;
+}
+
+double RundenGerade(double wert) { return std::nearbyint(wert); }  // Standardmodus: zur geraden
+
+double Int(double wert) { return std::floor(wert); }
+
+double Runden(double wert, int32_t stellen) {
+    if (stellen <= 0) return RundenGerade(wert);
+    double faktor = std::pow(10.0, stellen);
+    return RundenGerade(wert * faktor) / faktor;
+}
+
+bool LongAus(double wert, int32_t& ziel) {
+    double r = RundenGerade(wert);
+    if (!std::isfinite(r) || r < std::numeric_limits<int32_t>::min() || r > std::numeric_limits<int32_t>::max())
+        return false;
+    ziel = static_cast<int32_t>(r);
+    return true;
+}
+
+bool IntegerAus(double wert, int16_t& ziel) {
+    double r = RundenGerade(wert);
+    if (!std::isfinite(r) || r < std::numeric_limits<int16_t>::min() || r > std::numeric_limits<int16_t>::max())
+        return false;
+    ziel = static_cast<int16_t>(r);
+    return true;
+}
+
+bool LongAddieren(int32_t a, int32_t b, int32_t& ziel) {
+    int32_t s;
+    if (__builtin_add_overflow(a, b, &s)) return false;
+    ziel = s;
+    return true;
+}
+
+int32_t ZahlLesen(std::string_view text) {
+    auto w = ZahlWert(text);
+    int32_t z = 0;
+    if (w) LongAus(*w, z);
+    return z;
+}
+
+std::string ZahlText(int64_t wert) { return std::to_string(wert); }
+
+std::string TausenderFormat(double wert) {
+    double r = RundenGerade(wert);
+    bool negativ = r < 0;
+    char puffer[64];
+    std::snprintf(puffer, sizeof puffer, "%.0f", std::fabs(r));
+    return (negativ ? "-" : "") + Gruppieren(puffer);
+}
+
+std::string ZweiStellenFormat(double wert) {
+    double r = Runden(wert, 2);
+    bool negativ = r < 0;
+    char puffer[64];
+    std::snprintf(puffer, sizeof puffer, "%.2f", std::fabs(r));
+    std::string s = puffer;
+    auto punkt = s.find('.');
+    return (negativ ? "-" : "") + Gruppieren(s.substr(0, punkt)) + "," + s.substr(punkt + 1);
+}

@@ -1,0 +1,18 @@
+#include "cli/CliKontext.h"
+
+#include "platform/Verzeichnisse.h"
+
+#include <cstdio>
+
+CliKontext::CliKontext(std::string pfad, bool j)
+    : indexPfad(std::move(pfad)), ja(j), ui(j), registrierung(KonfigOrdner() + "/klangkartei.conf"),
+      k(Dienste{ui, registrierung, spieler, shell, datenträger, uhr, zufall}) {
+    k.LetzteSpeicherung = uhr.Jetzt();
+}
+
+int GebrauchsFehler(const std::string& text) {
+    std::fprintf(stderr, "klangkartei-cli: %s\nAufruf: klangkartei-cli [--index PFAD] [--yes] BEFEHL [ARGUMENTE]\n"
+                         "Mit --help erscheint die Liste der Befehle.\n",
+                 text.c_str());
+    return 2;
+}

@@ -1,0 +1,30 @@
+#pragma once
+// Alles, was ein Unterbefehl braucht: Dienste, Kartei und die allgemeinen Schalter.
+#include "app/Kartei.h"
+#include "cli/CliOberflaeche.h"
+#include "platform/KonfigRegistrierung.h"
+#include "platform/LinuxDatentraeger.h"
+#include "platform/LinuxShell.h"
+#include "platform/SystemDienste.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+struct CliKontext {
+    CliKontext(std::string indexPfad, bool ja);
+
+    std::string indexPfad;  // leer: der Standard-Index
+    bool ja;
+    CliOberfläche ui;
+    KonfigRegistrierung registrierung;
+    KeinSpielerfenster spieler;
+    LinuxShell shell;
+    LinuxDatenträger datenträger;
+    SystemUhr uhr;
+    SystemZufall zufall;
+    Kartei k;
+};
+
+// Fehlermeldung mit Gebrauchshinweis auf stderr; Rückgabe 2.
+int GebrauchsFehler(const std::string& text);

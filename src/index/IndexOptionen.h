@@ -1,0 +1,3 @@
+#pragma once
+// Einstellungen, die zu einem Index gehören und in seiner Datei stehen.
+struct IndexOptionen {};

@@ -1,0 +1,3 @@
+#pragma once
+// Zustand beim Hinzufügen (Sammelbereich, Suchliste).
+struct AufnahmeZustand {};

@@ -1,0 +1,30 @@
+#pragma once
+// Der Einstellungsspeicher unter Linux: getypte Werte in einer Textdatei
+// ($XDG_CONFIG_HOME/klangkartei/klangkartei.conf). Zeilen "Name=t:Text" oder "Name=z:Zahl",
+// damit ein Text, der wie eine Zahl aussieht, ein Text bleibt.
+#include "app/Dienste.h"
+
+#include <map>
+#include <string>
+
+class KonfigRegistrierung final : public Registrierung {
+public:
+    explicit KonfigRegistrierung(std::string dateipfad);
+    ~KonfigRegistrierung() override;
+
+    bool SchlüsselÖffnen() override;
+    std::optional<RegistrierungsWert> WertLesen(const std::string& name) override;
+    bool TextSetzen(const std::string& name, const std::string& wert) override;
+    bool ZahlSetzen(const std::string& name, int32_t wert) override;
+    bool WertLöschen(const std::string& name) override;
+    bool Schließen() override;  // schreibt geänderte Werte (über eine temporäre Datei)
+
+    const std::string& Dateipfad() const { return pfad_; }
+
+private:
+    void Laden();
+    std::string pfad_;
+    std::map<std::string, RegistrierungsWert> werte_;
+    bool geladen_ = false;
+    bool geändert_ = false;
+};

@@ -1,0 +1,3 @@
+#pragma once
+// Zustand der Spieler-Anbindung und der Abspiel-Erkennung.
+struct SpielerZustand {};

@@ -1,0 +1,4 @@
+#pragma once
+// Zustand der Suche und der Ergebnisliste.
+struct SuchZustand {};
+struct ListenZustand {};

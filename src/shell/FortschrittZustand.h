@@ -1,0 +1,3 @@
+#pragma once
+// Zustand des Fortschrittsfensters.
+struct FortschrittZustand {};

@@ -1,0 +1,17 @@
+# Aufruf der Kommandozeile: Hilfe, Version, Gebrauchsfehler mit Rückgabe 2.
+function(pruefe erwartet_rc muster)
+  execute_process(COMMAND ${CLI} ${ARGN} RESULT_VARIABLE rc OUTPUT_VARIABLE aus ERROR_VARIABLE fehler)
+  if(NOT rc EQUAL ${erwartet_rc})
+    message(FATAL_ERROR "klangkartei-cli ${ARGN}: Rückgabe ${rc} statt ${erwartet_rc}\n${aus}${fehler}")
+  endif()
+  if(NOT "${aus}${fehler}" MATCHES "${muster}")
+    message(FATAL_ERROR "klangkartei-cli ${ARGN}: '${muster}' fehlt in:\n${aus}${fehler}")
+  endif()
+endfunction()
+
+pruefe(0 "Befehle:" --help)
+pruefe(0 "^klangkartei-cli 1\\.0\\.0\n$" --version)
+pruefe(2 "Unbekannter Befehl 'gibtsnicht'" gibtsnicht)
+pruefe(2 "Unbekannter Schalter '--quatsch'" --quatsch)
+pruefe(2 "Kein Befehl angegeben" )
+pruefe(2 "--index braucht einen Pfad" --index)
