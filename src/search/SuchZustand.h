@@ -1,4 +1,9 @@
 #pragma once
 // Zustand der Suche und der Ergebnisliste.
+#include "search/Ergebnisliste.h"
+
 struct SuchZustand {};
-struct ListenZustand {};
+
+struct ListenZustand {
+    Ergebnisliste lstSongs;  // die Hauptliste
+};
