@@ -1,7 +1,19 @@
 #include "cli/Befehle.h"
 
-// Jeder Befehl steht in seiner eigenen Datei; hier nur die Liste.
+// Jeder Befehl steht in seiner eigenen Datei (BefehlXyz.cpp) und meldet sich hier an.
+// Index
+// Einstellungen
+// Mediendateien
+// Aufnahme
+// Suche
+
 const std::vector<Befehl>& AlleBefehle() {
-    static const std::vector<Befehl> befehle = {};
+    static const std::vector<Befehl> befehle = {
+        // Index
+        // Einstellungen
+        // Mediendateien
+        // Aufnahme
+        // Suche
+    };
     return befehle;
 }
