@@ -48,3 +48,17 @@ TEST(Attrappen, UngeplanteFrageScheitert) {
     EXPECT_EQ(u.ui.meldungen[0].schalter, 35);
     EXPECT_NONFATAL_FAILURE(u.k.ui.MeldungZeigen("Noch eine?", Meldung::JaNeinFrage), "Ungeplante Frage");
 }
+
+#include "media/Genres.h"
+
+TEST(Genres, TabelleWieSieSteht) {
+    EXPECT_EQ(GenreAnzahl(), 145);
+    EXPECT_EQ(GenreName(0), "Blues");
+    EXPECT_EQ(GenreName(40), "Alt. Rock");
+    EXPECT_EQ(GenreName(142), "Dance Hall");
+    EXPECT_EQ(GenreName(144), "Thrash Metal");
+    EXPECT_EQ(GenreName(145), "");
+    EXPECT_EQ(GenreName(255), "");
+    EXPECT_EQ(GenreCode("Dance Hall"), 125);  // Suche von vorn
+    EXPECT_EQ(GenreCode("Beat"), -1);
+}
