@@ -5,7 +5,8 @@
 #include "platform/StandardAnwendung.h"
 #include "platform/Verzeichnisse.h"
 
-#include <cstdio>
+#include <QSaveFile>
+
 #include <fstream>
 #include <iterator>
 #include <limits>
@@ -63,21 +64,16 @@ bool ZeileLesen(std::string_view zeile, std::string& name, RegistrierungsWert& w
     return true;
 }
 
+// Über eine temporäre Datei mit eigenem Namen daneben: zwei Programme, die zugleich
+// schließen, zerschreiben sich nichts, und die alte Datei bleibt bis zum Umbenennen ganz.
 bool DateiErsetzen(const std::string& ziel, const std::string& inhalt) {
-    const std::string temp = ziel + "~";
-    {
-        std::ofstream aus(temp, std::ios::binary | std::ios::trunc);
-        if (!aus) return false;
-        aus << inhalt;
-        aus.close();
-        if (!aus) {
-            std::remove(temp.c_str());
-            return false;
-        }
+    QSaveFile datei(QString::fromStdString(ziel));
+    if (!datei.open(QIODevice::WriteOnly)) return false;
+    if (datei.write(inhalt.data(), static_cast<qint64>(inhalt.size())) != static_cast<qint64>(inhalt.size())) {
+        datei.cancelWriting();
+        return false;
     }
-    if (std::rename(temp.c_str(), ziel.c_str()) == 0) return true;
-    std::remove(temp.c_str());
-    return false;
+    return datei.commit();
 }
 }  // namespace
 

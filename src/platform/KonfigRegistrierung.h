@@ -3,7 +3,7 @@
 // ($XDG_CONFIG_HOME/klangkartei/klangkartei.conf). Zeilen "Name=t:Text" oder "Name=z:Zahl",
 // damit ein Text, der wie eine Zahl aussieht, ein Text bleibt. Im Text stehen "\\", "\n" und
 // "\r" für Rückstrich, Zeilenumbruch und Wagenrücklauf. Kaputte Zeilen werden übergangen.
-// Geschrieben wird erst bei Schließen(), über eine temporäre Datei daneben.
+// Geschrieben wird erst bei Schließen(), über eine temporäre Datei daneben (QSaveFile).
 #include "app/Dienste.h"
 
 #include <map>

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 using namespace std::string_literals;
 
 namespace {
@@ -48,7 +50,9 @@ TEST(KonfigRegistrierung, EinstellungenÜberstehenSpeichernUndNeustart) {
                               "\nFarbeListen=z:-2147483648\n", "\nDateiname=t:/musik/Meine Kartei.kkt\n"})
         EXPECT_NE(datei.find(zeile), std::string::npos) << zeile;
     EXPECT_EQ(datei.find("AutoTagFormate3"), std::string::npos);
-    EXPECT_FALSE(DoesExist(pfad + "~"));
+    int dateien = 0;  // keine temporäre Datei bleibt liegen
+    for ([[maybe_unused]] auto& e : std::filesystem::directory_iterator(PfadZurückgeben(pfad))) ++dateien;
+    EXPECT_EQ(dateien, 1);
 
     KonfigUmgebung b(pfad);
     EinstellungenLesen(b.k);
