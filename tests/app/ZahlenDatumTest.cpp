@@ -53,7 +53,8 @@ TEST(Zahlen, GanzeZahlStreng) {
     EXPECT_EQ(GanzeZahlLesen("-2147483648"), -2147483648LL);
     EXPECT_EQ(GanzeZahlLesen("+17"), 17);
     EXPECT_EQ(GanzeZahlLesen("9223372036854775807"), INT64_MAX);
-    for (const char* kein : {"", "+", "-", "+-1", "--1", " 1", "1 ", "1,5", "1.0", "1e3", "0x10", "9223372036854775808"})
+    for (const char* kein :
+         {"", "+", "-", "+-1", "--1", " 1", "1 ", "1,5", "1.0", "1e3", "0x10", "9223372036854775808"})
         EXPECT_FALSE(GanzeZahlLesen(kein)) << '"' << kein << '"';
 }
 

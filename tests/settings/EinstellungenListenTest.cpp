@@ -90,7 +90,8 @@ TEST(EinstellungsListen, ListenwerteUndTabellennamenWerdenErkannt) {
     EXPECT_EQ(w->nummer, 12);
     EXPECT_TRUE(ListenWertFinden("autotagausschluß3"));
     for (const char* kein : {"AutoTagFormate", "AutoTagFormate0", "AutoTagFormate01", "AutoTagFormate+1",
-                             "AutoTagFormate-1", "AutoTagFormate1x", "AutoTagAusschlußLeer", "AutoTagFormate99999999999"})
+                             "AutoTagFormate-1", "AutoTagFormate1x", "AutoTagAusschlußLeer",
+                             "AutoTagFormate99999999999"})
         EXPECT_FALSE(ListenWertFinden(kein)) << kein;
 
     const auto* e = EinstellungFinden("winamplautstärke");

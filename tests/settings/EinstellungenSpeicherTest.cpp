@@ -79,7 +79,8 @@ TEST(EinstellungenSpeicher, SpielerWirdNurBeimErstenStartGesucht) {
 }
 
 TEST(EinstellungenSpeicher, Mp3TagLesenWirdAufDreiStellenErgänzt) {
-    for (auto [gespeichert, erwartet] : {std::pair{"1", "101"}, {"", "101"}, {"0", "001"}, {"11", "11"}, {"010", "010"}}) {
+    for (auto [gespeichert, erwartet] :
+         {std::pair{"1", "101"}, {"", "101"}, {"0", "001"}, {"11", "11"}, {"010", "010"}}) {
         TestUmgebung u;
         u.registrierung.werte["Mp3TagLesen"] = Text(gespeichert);
         EinstellungenLesen(u.k);
@@ -160,7 +161,8 @@ TEST(EinstellungenSpeicher, JederWertÜberstehtSpeichernUndNeustart) {
     int32_t n = 0;
     for (const auto& e : EinstellungsTabelle()) {
         std::string fehler;
-        const std::string neu = IstTextEinstellung(e) ? std::string("Wert ") + e.name + " ä\\\n" : std::to_string(-(++n));
+        const std::string neu =
+            IstTextEinstellung(e) ? std::string("Wert ") + e.name + " ä\\\n" : std::to_string(-(++n));
         ASSERT_TRUE(EinstellungAusText(u.k, e, neu, fehler)) << e.name << fehler;
     }
     u.k.E.AutoTagLeer = 0;
@@ -173,7 +175,8 @@ TEST(EinstellungenSpeicher, JederWertÜberstehtSpeichernUndNeustart) {
     TestUmgebung neu;
     neu.registrierung.werte = u.registrierung.werte;
     EinstellungenLesen(neu.k);
-    for (const auto& e : EinstellungsTabelle()) EXPECT_EQ(EinstellungAlsText(neu.k, e), EinstellungAlsText(u.k, e)) << e.name;
+    for (const auto& e : EinstellungsTabelle())
+        EXPECT_EQ(EinstellungAlsText(neu.k, e), EinstellungAlsText(u.k, e)) << e.name;
     EXPECT_EQ(neu.k.E.AutoTagFormate.Vektor(), u.k.E.AutoTagFormate.Vektor());
     EXPECT_EQ(neu.k.E.AutoTagAusschluß.Vektor(), (std::vector<std::string>{"live", ""}));
     EXPECT_EQ(neu.k.E.Start, u.k.E.Start);
