@@ -19,12 +19,17 @@ class Registrierung {
 public:
     virtual ~Registrierung() = default;
     virtual bool SchlüsselÖffnen() = 0;  // lässt sich der Speicher öffnen?
+    // Legt den Speicher an, wenn er fehlt (RegCreateKeyA); true, wenn er danach da ist.
+    virtual bool SchlüsselAnlegen() = 0;
     virtual std::optional<RegistrierungsWert> WertLesen(const std::string& name) = 0;
     virtual bool TextSetzen(const std::string& name, const std::string& wert) = 0;
     virtual bool ZahlSetzen(const std::string& name, int32_t wert) = 0;
     virtual bool WertLöschen(const std::string& name) = 0;
     // Schreibt gepufferte Änderungen (RegCloseKey); Standard: nichts zu tun.
     virtual bool Schließen() { return true; }
+    // Befehl der Standardanwendung des Desktops für audio/mpeg (an Stelle der Dateizuordnung
+    // Winamp.File), Feldcodes wie %U schon entfernt; "" wenn es keine gibt.
+    virtual std::string StandardAudioBefehl() = 0;
 };
 
 // Das Fenster des Spielers, der einzige Draht zu ihm.

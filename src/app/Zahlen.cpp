@@ -1,5 +1,6 @@
 #include "app/Zahlen.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <limits>
@@ -90,6 +91,18 @@ int32_t ZahlLesen(std::string_view text) {
     int32_t z = 0;
     if (w) LongAus(*w, z);
     return z;
+}
+
+std::optional<int64_t> GanzeZahlLesen(std::string_view text) {
+    // from_chars kennt kein "+", also selbst abnehmen; danach darf kein Vorzeichen mehr folgen.
+    if (!text.empty() && text.front() == '+') {
+        text.remove_prefix(1);
+        if (!text.empty() && text.front() == '-') return std::nullopt;
+    }
+    int64_t wert = 0;
+    auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), wert);
+    if (fehler != std::errc() || ende != text.data() + text.size()) return std::nullopt;
+    return wert;
 }
 
 std::string ZahlText(int64_t wert) { return std::to_string(wert); }

@@ -27,6 +27,9 @@ bool LongAddieren(int32_t a, int32_t b, int32_t& ziel);
 
 // Die Zahl im Text (CLng), 0 wenn leer, nicht numerisch oder zu groß.
 int32_t ZahlLesen(std::string_view text);
+// Streng: nur optionales Vorzeichen und Ziffern, ohne Leerzeichen; nullopt sonst oder
+// wenn die Zahl nicht in 64 Bit passt. Für gespeicherte Zahlen und Eingaben auf der Kommandozeile.
+std::optional<int64_t> GanzeZahlLesen(std::string_view text);
 
 // Zahl als Text ohne Tausenderzeichen; Nachkommastellen mit "," wie die deutsche Anzeige.
 std::string ZahlText(int64_t wert);

@@ -3,6 +3,7 @@
 // Jeder Befehl steht in seiner eigenen Datei (BefehlXyz.cpp) und meldet sich hier an.
 // Index
 // Einstellungen
+extern const Befehl BefehlSettings;
 // Mediendateien
 // Aufnahme
 // Suche
@@ -11,6 +12,7 @@ const std::vector<Befehl>& AlleBefehle() {
     static const std::vector<Befehl> befehle = {
         // Index
         // Einstellungen
+        BefehlSettings,
         // Mediendateien
         // Aufnahme
         // Suche

@@ -1,6 +1,7 @@
 #include "cli/CliKontext.h"
 
 #include "platform/Verzeichnisse.h"
+#include "settings/EinstellungenSpeicher.h"
 
 #include <cstdio>
 
@@ -8,6 +9,7 @@ CliKontext::CliKontext(std::string pfad, bool j)
     : indexPfad(std::move(pfad)), ja(j), ui(j), registrierung(KonfigOrdner() + "/klangkartei.conf"),
       k(Dienste{ui, registrierung, spieler, shell, datenträger, uhr, zufall}) {
     k.LetzteSpeicherung = uhr.Jetzt();
+    EinstellungenLesen(k);  // jeder Befehl arbeitet mit den Einstellungen des Benutzers
 }
 
 int GebrauchsFehler(const std::string& text) {

@@ -2,10 +2,15 @@
 
 #include "app/Pfade.h"
 #include "app/Zahlen.h"
+#include "platform/StandardAnwendung.h"
 #include "platform/Verzeichnisse.h"
 
-#include <cstdio>
+#include <QSaveFile>
+
 #include <fstream>
+#include <iterator>
+#include <limits>
+#include <string_view>
 
 namespace {
 std::string Maskieren(const std::string& t) {
@@ -19,7 +24,7 @@ std::string Maskieren(const std::string& t) {
     return aus;
 }
 
-std::string Demaskieren(const std::string& t) {
+std::string Demaskieren(std::string_view t) {
     std::string aus;
     for (size_t i = 0; i < t.size(); ++i) {
         if (t[i] != '\\' || i + 1 == t.size()) {
@@ -31,6 +36,45 @@ std::string Demaskieren(const std::string& t) {
     }
     return aus;
 }
+
+// Namen, die sich nicht als eine Zeile "Name=..." schreiben und wieder lesen lassen.
+bool NameSchreibbar(const std::string& name) {
+    return !name.empty() && name.front() != '#' && name.find_first_of("=\n\r") == std::string::npos;
+}
+
+// Eine Zeile "Name=t:Text" oder "Name=z:Zahl"; false bei Kommentar oder kaputter Zeile.
+bool ZeileLesen(std::string_view zeile, std::string& name, RegistrierungsWert& w) {
+    if (!zeile.empty() && zeile.back() == '\r') zeile.remove_suffix(1);  // von Hand unter Windows bearbeitet
+    const auto gleich = zeile.find('=');
+    if (zeile.empty() || zeile.front() == '#' || gleich == std::string_view::npos || gleich == 0 ||
+        zeile.size() < gleich + 3 || zeile[gleich + 2] != ':')
+        return false;
+    const std::string_view wert = zeile.substr(gleich + 3);
+    if (zeile[gleich + 1] == 'z') {
+        auto zahl = GanzeZahlLesen(wert);
+        if (!zahl || *zahl < std::numeric_limits<int32_t>::min() || *zahl > std::numeric_limits<int32_t>::max())
+            return false;
+        w = RegistrierungsWert{true, {}, static_cast<int32_t>(*zahl)};
+    } else if (zeile[gleich + 1] == 't') {
+        w = RegistrierungsWert{false, Demaskieren(wert), 0};
+    } else {
+        return false;
+    }
+    name = std::string(zeile.substr(0, gleich));
+    return true;
+}
+
+// Über eine temporäre Datei mit eigenem Namen daneben: zwei Programme, die zugleich
+// schließen, zerschreiben sich nichts, und die alte Datei bleibt bis zum Umbenennen ganz.
+bool DateiErsetzen(const std::string& ziel, const std::string& inhalt) {
+    QSaveFile datei(QString::fromStdString(ziel));
+    if (!datei.open(QIODevice::WriteOnly)) return false;
+    if (datei.write(inhalt.data(), static_cast<qint64>(inhalt.size())) != static_cast<qint64>(inhalt.size())) {
+        datei.cancelWriting();
+        return false;
+    }
+    return datei.commit();
+}
 }  // namespace
 
 KonfigRegistrierung::KonfigRegistrierung(std::string dateipfad) : pfad_(std::move(dateipfad)) {}
@@ -41,29 +85,22 @@ void KonfigRegistrierung::Laden() {
     if (geladen_) return;
     geladen_ = true;
     std::ifstream ein(pfad_, std::ios::binary);
-    std::string zeile;
-    while (std::getline(ein, zeile)) {
-        auto gleich = zeile.find('=');
-        if (gleich == std::string::npos || gleich == 0 || zeile.size() < gleich + 3 || zeile[gleich + 2] != ':')
-            continue;  // Kommentar oder kaputte Zeile
+    const std::string inhalt{std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>()};
+    std::string_view rest = inhalt;
+    while (!rest.empty()) {
+        const auto ende = rest.find('\n');
+        std::string name;
         RegistrierungsWert w;
-        std::string wert = zeile.substr(gleich + 3);
-        char art = zeile[gleich + 1];
-        if (art == 'z') {
-            if (!IstNumerisch(wert)) continue;
-            w.istZahl = true;
-            w.zahl = ZahlLesen(wert);
-        } else if (art == 't') {
-            w.text = Demaskieren(wert);
-        } else {
-            continue;
-        }
-        werte_[zeile.substr(0, gleich)] = std::move(w);
+        if (ZeileLesen(rest.substr(0, ende), name, w)) werte_[name] = std::move(w);  // der letzte gilt
+        rest.remove_prefix(ende == std::string_view::npos ? rest.size() : ende + 1);
     }
 }
 
-bool KonfigRegistrierung::SchlüsselÖffnen() {
+bool KonfigRegistrierung::SchlüsselÖffnen() { return DoesExist(pfad_); }
+
+bool KonfigRegistrierung::SchlüsselAnlegen() {
     Laden();
+    if (!DoesExist(pfad_)) geändert_ = true;  // beim Schließen entsteht die Datei
     return OrdnerAnlegen(PfadZurückgeben(pfad_));
 }
 
@@ -74,23 +111,20 @@ std::optional<RegistrierungsWert> KonfigRegistrierung::WertLesen(const std::stri
     return it->second;
 }
 
-bool KonfigRegistrierung::TextSetzen(const std::string& name, const std::string& wert) {
+bool KonfigRegistrierung::Setzen(const std::string& name, RegistrierungsWert wert) {
+    if (!NameSchreibbar(name)) return false;
     Laden();
-    RegistrierungsWert w;
-    w.text = wert;
-    werte_[name] = w;
+    werte_[name] = std::move(wert);
     geändert_ = true;
     return true;
 }
 
+bool KonfigRegistrierung::TextSetzen(const std::string& name, const std::string& wert) {
+    return Setzen(name, RegistrierungsWert{false, wert, 0});
+}
+
 bool KonfigRegistrierung::ZahlSetzen(const std::string& name, int32_t wert) {
-    Laden();
-    RegistrierungsWert w;
-    w.istZahl = true;
-    w.zahl = wert;
-    werte_[name] = w;
-    geändert_ = true;
-    return true;
+    return Setzen(name, RegistrierungsWert{true, {}, wert});
 }
 
 bool KonfigRegistrierung::WertLöschen(const std::string& name) {
@@ -103,15 +137,12 @@ bool KonfigRegistrierung::WertLöschen(const std::string& name) {
 bool KonfigRegistrierung::Schließen() {
     if (!geändert_) return true;
     if (!OrdnerAnlegen(PfadZurückgeben(pfad_))) return false;
-    const std::string temp = pfad_ + "~";
-    {
-        std::ofstream aus(temp, std::ios::binary | std::ios::trunc);
-        aus << "# Klangkartei-Einstellungen: Name=t:Text oder Name=z:Zahl\n";
-        for (const auto& [name, w] : werte_)
-            aus << name << (w.istZahl ? "=z:" + std::to_string(w.zahl) : "=t:" + Maskieren(w.text)) << '\n';
-        if (!aus.flush()) return false;
-    }
-    if (std::rename(temp.c_str(), pfad_.c_str()) != 0) return false;
+    std::string inhalt = "# Klangkartei-Einstellungen: Name=t:Text oder Name=z:Zahl\n";
+    for (const auto& [name, w] : werte_)
+        inhalt += name + (w.istZahl ? "=z:" + std::to_string(w.zahl) : "=t:" + Maskieren(w.text)) + '\n';
+    if (!DateiErsetzen(pfad_, inhalt)) return false;
     geändert_ = false;
     return true;
 }
+
+std::string KonfigRegistrierung::StandardAudioBefehl() { return StandardAnwendungsBefehl("audio/mpeg"); }

@@ -1,13 +1,14 @@
 #pragma once
 // Die gespeicherten Einstellungen: ein Mitglied je Wert, benannt wie der Wert, mit seiner
-// Vorgabe. Long = int32_t, Integer = int16_t. Reihenfolge = Lese- und Schreibreihenfolge.
+// Vorgabe. Long = int32_t, Integer = int16_t. Reihenfolge = Lese- und Schreibreihenfolge
+// (die Tabelle dazu steht in settings/EinstellungenTabelle.cpp). Der Wert "Dateiname" ist
+// k.Dateiname, der Pfad des offenen Index: ein Wert, keine zweite Kopie.
 #include "app/EinsBasiert.h"
 
 #include <cstdint>
 #include <string>
 
 struct Einstellungen {
-    std::string Dateiname = "";
     std::string Mp3TagLesen = "101";
     std::string WinampPfad = "";
     int32_t FensterHeight = 0;
@@ -17,7 +18,7 @@ struct Einstellungen {
     int16_t FensterMax = 0;
     int16_t Start = 0;
     std::string WinampParameterAbspielen = "";
-    std::string WinampParameterHinzufügen = "/ADD";
+    std::string WinampParameterHinzufügen = "-e";  // Audacious: an die Wiedergabeliste anhängen
     int16_t DateiAutomatischSpeichern = 0;
     int16_t HinzufügenKeineDoppelten = 1;
     int16_t HinzufügenUnterordner = 1;

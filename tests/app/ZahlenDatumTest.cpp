@@ -48,6 +48,16 @@ TEST(Zahlen, ÜberlaufUndZahlLesen) {
     EXPECT_EQ(ZahlLesen("99999999999"), 0);
 }
 
+TEST(Zahlen, GanzeZahlStreng) {
+    EXPECT_EQ(GanzeZahlLesen("0"), 0);
+    EXPECT_EQ(GanzeZahlLesen("-2147483648"), -2147483648LL);
+    EXPECT_EQ(GanzeZahlLesen("+17"), 17);
+    EXPECT_EQ(GanzeZahlLesen("9223372036854775807"), INT64_MAX);
+    for (const char* kein :
+         {"", "+", "-", "+-1", "--1", " 1", "1 ", "1,5", "1.0", "1e3", "0x10", "9223372036854775808"})
+        EXPECT_FALSE(GanzeZahlLesen(kein)) << '"' << kein << '"';
+}
+
 TEST(Zahlen, Formate) {
     EXPECT_EQ(TausenderFormat(3145728), "3.145.728");
     EXPECT_EQ(TausenderFormat(999), "999");

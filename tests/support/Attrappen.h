@@ -47,7 +47,13 @@ class TestRegistrierung final : public Registrierung {
 public:
     std::map<std::string, RegistrierungsWert> werte;
     bool öffnenGelingt = true;
+    bool angelegt = false;
+    int schließenAnzahl = 0;
+    std::string standardAudioBefehl;  // was die Standardanwendung für audio/mpeg liefert
     bool SchlüsselÖffnen() override { return öffnenGelingt; }
+    bool SchlüsselAnlegen() override { return angelegt = öffnenGelingt = true; }
+    bool Schließen() override { return ++schließenAnzahl > 0; }
+    std::string StandardAudioBefehl() override { return standardAudioBefehl; }
     std::optional<RegistrierungsWert> WertLesen(const std::string& name) override;
     bool TextSetzen(const std::string& name, const std::string& wert) override;
     bool ZahlSetzen(const std::string& name, int32_t wert) override;
