@@ -1,0 +1,42 @@
+#include "shell/Beenden.h"
+
+#include "app/Kartei.h"
+
+namespace {
+BeendenSchritt Minimieren(const FensterLage& lage) {
+    return lage.endeErzwungen || lage.minimiert ? BeendenSchritt::Weiter : BeendenSchritt::Minimieren;
+}
+
+// Ohne Symbol im Infobereich käme ein verstecktes Fenster nicht wieder: dann verkleinern.
+BeendenSchritt InTray(const FensterLage& lage) {
+    if (!lage.trayVorhanden) return Minimieren(lage);
+    return lage.endeErzwungen || lage.versteckt ? BeendenSchritt::Weiter : BeendenSchritt::InTray;
+}
+}  // namespace
+
+BeendenSchritt BeendenReaktionPrüfen(const Kartei& k, SchließGrund grund, const FensterLage& lage) {
+    if (grund != SchließGrund::Benutzer) return BeendenSchritt::Weiter;
+    switch (k.E.BeendenReaktion) {
+    case Beenden::Fragen:
+        if (lage.endeErzwungen || lage.versteckt || lage.minimiert) return BeendenSchritt::Weiter;
+        return BeendenSchritt::Fragen;
+    case Beenden::Minimieren: return Minimieren(lage);
+    case Beenden::Tray: return InTray(lage);
+    default: return BeendenSchritt::Weiter;
+    }
+}
+
+BeendenSchritt BeendenAuswahlAnwenden(int16_t BeendenAuswahl, const FensterLage& lage) {
+    switch (BeendenAuswahl) {
+    case Beenden::Minimieren: return Minimieren(lage);
+    case Beenden::Tray: return InTray(lage);
+    case Beenden::Ende: return BeendenSchritt::Weiter;
+    default: return BeendenSchritt::Abbrechen;
+    }
+}
+
+int16_t BeendenKnopfGedrückt(Kartei& k, int16_t auswahl, bool immer) {
+    if (auswahl == Beenden::Abbrechen) return auswahl;
+    k.E.BeendenReaktion = immer ? auswahl : Beenden::Fragen;
+    return auswahl;
+}
