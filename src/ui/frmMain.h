@@ -1,16 +1,119 @@
 #pragma once
-// Das Hauptfenster.
+// Das Hauptfenster: links die Befehle, oben Index und Auswahl, die Suche und die Ergebnisliste.
+// Es verdrahtet nur: jede Arbeit tut der Kern. Aufgeteilt auf frmMain.cpp (Aufbau, Anzeige),
+// frmMainBefehle.cpp (Befehle und Menüs), frmMainSuche.cpp (Suchfeld, tmrListe) und
+// frmMainSchliessen.cpp (Schließen, Index wechseln).
+#include "shell/TitelNachricht.h"
+
 #include <QMainWindow>
+#include <QTimer>
+
+#include <string>
 
 struct Kartei;
+class GuiOberfläche;
+class KlickLabel;
+class LinkLabel;
+class LinkeSpalte;
+class QComboBox;
+class QLabel;
+class QMenu;
+class QPushButton;
+class SongListeAnsicht;
 
 class frmMain final : public QMainWindow {
-    Q_OBJECT
 public:
-    explicit frmMain(Kartei& k, QWidget* parent = nullptr);
+    // standardIndex: der Index, den IndexÖffnen bei leerem Dateiname lädt.
+    frmMain(Kartei& k, GuiOberfläche& ui, std::string standardIndex, QWidget* eltern = nullptr);
+    ~frmMain() override;
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;
 
+    // IndexÖffnen mit den Schritten des Fensters: Suche und Liste an oder aus, Name des Index.
+    bool IndexÖffnen();
+    // Die Farben der Einstellungen auf alle Teile des Fensters.
+    void FarbenAnwenden();
+    // Die Liste zeigt, was der Kern in k.Liste.lstSongs hinterlegt hat.
+    void ListeAnzeigen();
+    void AuswahlBeschreibungAnzeigen();
+    void TitelNachrichtZeigen(const std::string& text, int32_t verzögerungMs);
+    // cboSuche auf den ersten Eintrag, ohne dass eine Suche beginnt (Programmstart).
+    void SucheVorbereiten();
+    // Fokus ins Suchfeld, wenn es eingeschaltet ist.
+    void SuchfeldFokussieren();
+    // Das Fenster während eines Fortschritts sperren (nur Schließen bleibt verweigert).
+    void Sperren(bool gesperrt);
+    // Zentrieren (erster Start), gespeicherte Lage in Twips anwenden, maximieren; dann zeigen.
+    void FensterLageAnwenden(bool zentrieren, bool geometrie, bool maximieren);
+    // Einen Befehl der linken Spalte ausführen, als wäre er geklickt worden.
+    void BefehlAusführen(const QString& name);
+
+    SongListeAnsicht* lstSongs() const { return lstSongs_; }
+    bool ShiftGedrückt() const;
+
+protected:
+    void closeEvent(QCloseEvent* ereignis) override;
+
 private:
+    void AufbauOben(QWidget* rechts);
+    void AufbauSuche(QWidget* rechts);
+    void MenüsAufbauen();
+    void Verbinden();
+    void IndexAnzeigen(bool geladen);
+    void TitelSchrittAnwenden(const TitelSchritt& s);
+    void NichtVerfügbar();
+
+    // Befehle (frmMainBefehle.cpp)
+    void cmdIndexErstellen_Click();
+    void cmdDateiEntfernen_Click();
+    void cmdAuswählen_Click();
+    void lstSongs_DblClick();
+    void lstSongs_KontextMenü(const QPoint& global);
+    void MenüZustandSetzen(bool NurTitel);
+    void Auswahlhelfer(void (*helfer)(struct Ergebnisliste&));
+    void SongSucheAusführen(int art);
+    void lblIndexdatei_Click();
+    void DateienFallengelassen(const QStringList& pfade);
+    void AuswahlAktualisierenUndZeigen();
+
+    // Suche (frmMainSuche.cpp)
+    void VerbindenSuche();
+    void txtSongname_Change();
+    void tmrListe_Timer();
+    void cboSuche_Click();
+    void cmdSucheLöschen_Click();
+    void cmdSucheMehr_Click();
+    void lstSongs_ColumnClick(int spalte);
+    void SucheStarten(int feld, const std::string& text);
+
+    // Schließen (frmMainSchliessen.cpp)
+    void FensterLageSpeichern();
+
     Kartei& k_;
+    GuiOberfläche& ui_;
+    std::string standardIndex_;
+
+    LinkeSpalte* links_ = nullptr;
+    QLabel* lblProgramm_ = nullptr;
+    LinkLabel* lblIndexdatei_ = nullptr;
+    KlickLabel* lblIndexdateiUntertitel1_ = nullptr;
+    KlickLabel* lblIndexDateiUntertitel2_ = nullptr;
+    QComboBox* cboSuche_ = nullptr;
+    QComboBox* txtSongname_ = nullptr;
+    QPushButton* cmdSucheLöschen_ = nullptr;
+    QPushButton* cmdSucheMehr_ = nullptr;
+    SongListeAnsicht* lstSongs_ = nullptr;
+
+    QMenu* mnu_kontext_ = nullptr;
+    QMenu* mnu_wähle_ = nullptr;
+    QMenu* mnu_songkontext_ = nullptr;
+
+    QTimer tmrListe_;    // 600 ms, einmalig, startet nicht neu
+    QTimer tmrTimer1_;   // Titel tippen und halten
+    QTimer tmrTimer2_;   // Wartezeit vor dem Titel
+    QTimer tmrScrollUpdate_;  // 500 ms: regelmäßiges Speichern
+    QTimer auswahlTimer_;     // fasst viele Auswahländerungen zu einer Anzeige zusammen
+    TitelAnimation titel_;
+    bool gesperrt_ = false;
+    bool endeErzwungen_ = false;  // Tag "1": das Menü des Infobereichs beendet
 };

@@ -1,0 +1,1 @@
+int FensterTestAusführen(int, char**) { return 0; }
