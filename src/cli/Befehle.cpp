@@ -2,6 +2,7 @@
 
 // Jeder Befehl steht in seiner eigenen Datei (BefehlXyz.cpp) und meldet sich hier an.
 // Index
+extern const Befehl BefehlShow, BefehlField, BefehlSave;
 // Einstellungen
 // Mediendateien
 // Aufnahme
@@ -10,6 +11,7 @@
 const std::vector<Befehl>& AlleBefehle() {
     static const std::vector<Befehl> befehle = {
         // Index
+        BefehlShow, BefehlField, BefehlSave,
         // Einstellungen
         // Mediendateien
         // Aufnahme

@@ -1,5 +1,6 @@
 #pragma once
 // Gemeinsames der Index-Tests: Dateien Byte für Byte, die Beispielzeile, die Vorgabe-Optionen.
+#include "app/Pfade.h"
 #include "index/IndexDatei.h"
 #include "support/Attrappen.h"
 #include "support/TestOrdner.h"
