@@ -100,9 +100,27 @@ void IndexOptionenVorgaben(IndexOptionen& o) {
     o.DateitypenLeer = true;
     o.SpaltenNutzerformat = "%" + SpaltenName(4) + "% - %" + SpaltenName(5) + "%";
     o.SpaltenLeiste = 1;
-    o.Spalten = "0";
+    o.Spalten = std::string("0");  // so ohne Fehlwarnung von GCC 12 (-Wrestrict)
     o.TerminListe.clear();
 }
+
+namespace {
+// Eine Größe, die keine schlichte Ziffernfolge bis 1000 ist: prüfen und, wenn sie gilt, eintragen.
+void GrößeEintragen(Größenliste& g, int32_t feld, std::string_view zahl, int64_t& summe) {
+    if (zahl.empty()) zahl = "0";
+    int32_t größe = 0;
+    if (feld > IndexGrößenPlätze) {
+        KK_TRACE("DateiLaden", "Feld " + std::to_string(feld) + " reicht über Indexgrenzen hinaus ('" + std::string(zahl) + "')");
+    } else if (!LongLesen(zahl, größe)) {
+        KK_TRACE("DateiLaden", "Feld " + std::to_string(feld) + " ist nicht numerisch ('" + std::string(zahl) + "')");
+    } else if (größe < -1 || größe > 1000) {
+        KK_TRACE("DateiLaden", "Feld " + std::to_string(feld) + " ist zu groß/klein ('" + std::string(zahl) + "')");
+    } else {
+        g.größe[size_t(feld)] = größe;
+        summe += größe;
+    }
+}
+}  // namespace
 
 bool GrößenlisteLesen(std::string_view zeile, Größenliste& g) {
     g.größe.fill(0);
@@ -110,27 +128,28 @@ bool GrößenlisteLesen(std::string_view zeile, Größenliste& g) {
     int64_t summe = -1;
     size_t pos = 5;  // hinter "#TAG:"
     for (;;) {
-        const auto trenner = zeile.find_first_of("/|", pos);
-        if (trenner == std::string_view::npos) {
+        // Bis zum nächsten "/" oder "|"; reine Ziffern (der Normalfall) gleich mitrechnen.
+        size_t i = pos;
+        int32_t wert = 0;
+        bool einfach = true;
+        while (i < zeile.size() && zeile[i] != '/' && zeile[i] != '|') {
+            const char z = zeile[i++];
+            if (z >= '0' && z <= '9' && wert < 100000) wert = wert * 10 + (z - '0');
+            else einfach = false;
+        }
+        if (i == zeile.size()) {
             // Ohne Trennzeichen gäbe es kein Ende der Liste: die Zeile fällt weg.
             KK_TRACE("DateiLaden", "Größenliste ohne Abschluss, Zeile übergangen");
             return false;
         }
-        std::string_view zahl = zeile.substr(pos, trenner - pos);
-        if (zahl.empty()) zahl = "0";
-        pos = trenner + 1;
-        int32_t größe = 0;
-        if (feld > IndexGrößenPlätze) {
-            KK_TRACE("DateiLaden", "Feld " + std::to_string(feld) + " reicht über Indexgrenzen hinaus ('" + std::string(zahl) + "')");
-        } else if (!LongLesen(zahl, größe)) {
-            KK_TRACE("DateiLaden", "Feld " + std::to_string(feld) + " ist nicht numerisch ('" + std::string(zahl) + "')");
-        } else if (größe < -1 || größe > 1000) {
-            KK_TRACE("DateiLaden", "Feld " + std::to_string(feld) + " ist zu groß/klein ('" + std::string(zahl) + "')");
+        if (einfach && feld <= IndexGrößenPlätze && wert <= 1000) {
+            g.größe[size_t(feld)] = wert;
+            summe += wert;
         } else {
-            g.größe[size_t(feld)] = größe;
-            summe += größe;
+            GrößeEintragen(g, feld, zeile.substr(pos, i - pos), summe);
         }
-        if (zeile[trenner] == '|') break;
+        pos = i + 1;
+        if (zeile[i] == '|') break;
         ++feld;
     }
     g.felder = feld;

@@ -137,7 +137,7 @@ void SpaltenAnpassen(Kartei& k, Ergebnisliste& liste, bool& fehler) {
     }
     for (auto& s : spalten) {
         s.kopf = Kopftext(k, s.spalte);
-        s.tag = s.spalte == SpalteBenutzerdefiniert ? "b" : "";
+        s.tag = std::string(s.spalte == SpalteBenutzerdefiniert ? "b" : "");  // GCC 12: -Wrestrict-Fehlwarnung
     }
     liste.spalten = std::move(spalten);
     liste.Geändert();
