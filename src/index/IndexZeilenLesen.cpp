@@ -35,16 +35,24 @@ void DatumFeld(std::string& ziel, std::string_view wert) {
     if (IstDatum(wert)) ziel.assign(wert);
 }
 
-void FeldLesen(int32_t feld, std::string_view wert, std::string& pfad, DateiInfo& d) {
+// utf8: der Wert ist schon als gültiges UTF-8 bekannt (die Prüfung lief einmal für die ganze Zeile).
+void TextSetzen(std::string& ziel, std::string_view wert, bool utf8) {
+    if (utf8) ziel.assign(wert);
+    else ziel = DateiTextLesen(wert);
+}
+
+bool IstFolgebyte(char z) { return (static_cast<unsigned char>(z) & 0xC0) == 0x80; }
+
+void FeldLesen(int32_t feld, std::string_view wert, bool utf8, std::string& pfad, DateiInfo& d) {
     if (feld >= 2 && feld <= 8) d.Mp3_ID3v1_Status = 1;
     if (feld >= 21) d.Mp3_ID3v2_Status = 1;
     if (Text t = kTextFeld[feld]) {
-        d.*t = DateiTextLesen(wert);
+        TextSetzen(d.*t, wert, utf8);
         return;
     }
     int32_t z;
     switch (feld) {
-    case 1: pfad = DateiTextLesen(wert); break;
+    case 1: TextSetzen(pfad, wert, utf8); break;
     case 5:  // Genre: der Code als ein Zeichen
         if (LongLesen(wert, z) && z >= 0 && z <= 255) d.Mp3_ID3v1_Genre.assign(1, static_cast<char>(z));
         break;
@@ -162,6 +170,8 @@ bool GrößenlisteLesen(std::string_view zeile, Größenliste& g) {
 
 void DatensatzFelderLesen(std::string_view zeile, const Größenliste& g, std::string& pfad, DateiInfo& d) {
     size_t pos = g.werteAnfang;
+    // Ist die ganze Zeile gültiges UTF-8, ist es jedes Feld, das an Zeichengrenzen beginnt und endet.
+    const bool zeileUtf8 = pos <= zeile.size() && IstGültigesUtf8(zeile.substr(pos));
     const int32_t letztes = g.felder < IndexGrößenPlätze ? g.felder : IndexGrößenPlätze;
     for (int32_t feld = 1; feld <= letztes; ++feld) {
         const int32_t größe = g.größe[size_t(feld)];
@@ -172,7 +182,10 @@ void DatensatzFelderLesen(std::string_view zeile, const Größenliste& g, std::s
             KK_TRACE("DateiLaden", "Datenfeld nicht erkannt, da neuer");
             continue;
         }
-        if (!wert.empty()) FeldLesen(feld, wert, pfad, d);
+        if (wert.empty()) continue;
+        const size_t ende = pos < zeile.size() ? pos : zeile.size();
+        const bool utf8 = zeileUtf8 && !IstFolgebyte(wert.front()) && (ende == zeile.size() || !IstFolgebyte(zeile[ende]));
+        FeldLesen(feld, wert, utf8, pfad, d);
     }
 }
 
