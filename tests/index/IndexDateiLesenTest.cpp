@@ -393,3 +393,20 @@ TEST(IndexLesen, LückenWerdenVonDerPlatteNachgelesen) {
         EXPECT_FALSE(u.k.DateiGeändert);
     }
 }
+
+TEST(IndexLesen, ZeichensatzJeFeld) {
+    TestUmgebung u;
+    TestOrdner o;
+    const std::string bytes =
+        "#TAG:kk102\r\n" +
+        // Die Zeile ist gültiges UTF-8, aber die Größen teilen das "ä": beide Hälften gelten als Windows-1252.
+        Zeile(Größen(20, {{1, "6"}, {2, "1"}, {3, "2"}, {4, "2"}}), "/x.mp3\xC3\xA4" "b\xC3\xB6") +
+        // Windows-1252 einer älteren Fassung
+        Zeile(Größen(20, {{1, "6"}, {2, "5"}}), "/y.mp3\xC4rger");
+    ASSERT_TRUE(IndexAusBytesLaden(u, o, bytes));
+    ASSERT_EQ(u.k.DateiAnzahl, 2);
+    EXPECT_EQ(u.k.DateiDaten[1].Mp3_ID3v1_Album, "Ã");
+    EXPECT_EQ(u.k.DateiDaten[1].Mp3_ID3v1_Interpret, "¤b");
+    EXPECT_EQ(u.k.DateiDaten[1].Mp3_ID3v1_Kommentar, "ö");
+    EXPECT_EQ(u.k.DateiDaten[2].Mp3_ID3v1_Album, "Ärger");
+}
