@@ -11,9 +11,10 @@ BlockLeser::~BlockLeser() {
 }
 
 bool BlockLeser::Öffnen(const std::string& pfad) {
-    fd_ = ::open(pfad.c_str(), O_RDONLY | O_CLOEXEC);
+    fd_ = ::open(pfad.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);  // eine FIFO darf nicht warten lassen
     struct stat st {};
-    if (fd_ < 0 || ::fstat(fd_, &st) != 0 || S_ISDIR(st.st_mode)) {
+    // Nur gewöhnliche Dateien: ein Gerät wie /dev/zero hätte kein Ende, eine FIFO hielte an.
+    if (fd_ < 0 || ::fstat(fd_, &st) != 0 || !S_ISREG(st.st_mode)) {
         dateiEnde_ = true;
         return false;
     }

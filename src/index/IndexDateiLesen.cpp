@@ -13,6 +13,7 @@
 #include "shell/Fortschritt.h"
 
 #include <chrono>
+#include <cstdint>
 #include <cstdio>
 #include <thread>
 

@@ -283,6 +283,11 @@ TEST(IndexLesen, UnsinnLädtOhneAbsturzUndOhneHängen) {
         EXPECT_TRUE(IndexAusBytesLaden(u, o, bytes));
         EXPECT_LE(u.k.DateiAnzahl, u.k.DateiPfade.UBound());
     }
+    {  // Ein Gerät ohne Ende ist keine Indexdatei: abgelehnt wie ein ungültiges Format, ohne zu hängen.
+        TestUmgebung u;
+        u.ui.antworten = {Meldung::Nein};
+        EXPECT_FALSE(DateiLaden(u.k, "/dev/zero"));
+    }
     // Mitten in einer Zeile abgeschnitten: der Rest zählt als letzte Zeile.
     TestUmgebung u;
     const std::string ganz = kBeispielGrößen + kBeispielWerte;
