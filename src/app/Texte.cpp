@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace {
 
@@ -70,6 +71,13 @@ bool StehtAn(std::string_view text, size_t pos, std::string_view suche) {
 
 bool IstGültigesUtf8(std::string_view bytes) {
     size_t pos = 0;
+    // Reines ASCII (der Normalfall in der Indexdatei) acht Bytes auf einmal überspringen.
+    while (pos + 8 <= bytes.size()) {
+        uint64_t block;
+        std::memcpy(&block, bytes.data() + pos, 8);
+        if (block & 0x8080808080808080ULL) break;
+        pos += 8;
+    }
     while (pos < bytes.size()) {
         if (static_cast<unsigned char>(bytes[pos]) < 0x80) {
             ++pos;

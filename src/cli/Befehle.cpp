@@ -2,6 +2,7 @@
 
 // Jeder Befehl steht in seiner eigenen Datei (BefehlXyz.cpp) und meldet sich hier an.
 // Index
+extern const Befehl BefehlShow, BefehlField, BefehlSave;
 // Einstellungen
 extern const Befehl BefehlSettings;
 // Mediendateien
@@ -11,6 +12,7 @@ extern const Befehl BefehlSettings;
 const std::vector<Befehl>& AlleBefehle() {
     static const std::vector<Befehl> befehle = {
         // Index
+        BefehlShow, BefehlField, BefehlSave,
         // Einstellungen
         BefehlSettings,
         // Mediendateien
