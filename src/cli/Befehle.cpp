@@ -4,6 +4,7 @@
 // Index
 // Einstellungen
 // Mediendateien
+extern const Befehl BefehlInfo, BefehlTag, BefehlUntag;
 // Aufnahme
 // Suche
 
@@ -12,6 +13,7 @@ const std::vector<Befehl>& AlleBefehle() {
         // Index
         // Einstellungen
         // Mediendateien
+        BefehlInfo, BefehlTag, BefehlUntag,
         // Aufnahme
         // Suche
     };
