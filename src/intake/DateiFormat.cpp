@@ -18,7 +18,8 @@ bool DateiFormatUnterstützt(Kartei& k, const std::string& datei, bool keineVide
     for (int32_t i = 1; i <= anzahl; ++i) {
         const std::string& eintrag = o.DateitypEintrag[i];
         const auto gleich = eintrag.find('=');
-        if (gleich == std::string::npos || "." + Klein(eintrag.substr(0, gleich)) != endung) {
+        if (gleich == std::string::npos || endung.empty() || endung[0] != '.' ||
+            Klein(std::string_view(eintrag).substr(0, gleich)) != std::string_view(endung).substr(1)) {
             if (eintrag == "*=1") alleFreigegeben = true;
             continue;
         }

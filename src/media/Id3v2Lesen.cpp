@@ -109,7 +109,7 @@ bool RahmenLesen(Durchlauf& d, std::string_view& rest) {
     } else if (const auto c = static_cast<unsigned char>(id[0]); c < 65 || c >= 123) {
         KK_TRACE("Mp3TAGLesenV2", "Fehlerhaften Frame-Namen '");  // nur das erste Zeichen zählt
     } else if (d.v22) {
-        d.info.Mp3_ID3v2_Weitere = " ";  // 2.2: nur vermerken, dass es weitere gibt
+        d.info.Mp3_ID3v2_Weitere.assign(1, ' ');  // 2.2: nur vermerken, dass es weitere gibt
     } else {
         d.info.Mp3_ID3v2_Weitere += rest.substr(0, static_cast<size_t>(größe) + kopfLänge);
     }

@@ -30,7 +30,7 @@ std::string Mp3TAGSpeichernV2TAGHeaderZurückgeben(int32_t größe) {
     // Vor jeden 7-Bit-Lauf (von unten gezählt) kommt eine "0"; die obersten vier Zeichen fallen weg.
     const std::string bits = ZahlZuBitString(größe, 4);
     std::string syncSafe = bits.substr(0, 4);
-    for (int lauf = 0; lauf < 4; ++lauf) syncSafe += "0" + bits.substr(4 + lauf * 7, 7);
+    for (int lauf = 0; lauf < 4; ++lauf) syncSafe.append("0").append(bits, 4 + lauf * 7, 7);
     return std::string("ID3\x03\x00\x00", 6) + VierBytes(syncSafe.substr(4));
 }
 
