@@ -67,8 +67,9 @@ void Zurücksetzen(DateiInfo& info) {
 // Bytes [von, bis) der Datei; der Anfang bleibt gepuffert, Entferntes kommt als eigenes Stück.
 std::string_view Bereich(DateiLeser& datei, int64_t von, int64_t bis) {
     if (bis <= von) return {};
-    if (bis <= 262144) return datei.Anfang(bis).substr(static_cast<size_t>(std::min<int64_t>(von, bis)));
-    return datei.Stück(von, bis - von);
+    if (bis > 262144) return datei.Stück(von, bis - von);
+    const std::string_view anfang = datei.Anfang(bis);  // kürzer, wenn die Datei schrumpfte
+    return von < static_cast<int64_t>(anfang.size()) ? anfang.substr(static_cast<size_t>(von)) : std::string_view();
 }
 
 // Erste 1-basierte Stelle von "ID3" in den ersten n Bytes; 0 = keine. Erst im gepufferten

@@ -130,7 +130,7 @@ bool Neuschreiben(const std::string& pfad, const std::string& vorn, int64_t padd
         fehlertext = TagSpeicherFehlerText("ID3v2", pfad, e.systemFehler);
         return false;
     case NeuSchreibenSchritt::Ersetzen:
-        ::unlink(neu.c_str());
+        ::unlink(e.neuPfad.c_str());
         fehlertext = KannNichtGelöschtWerden(pfad);
         return false;
     }

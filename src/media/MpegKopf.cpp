@@ -6,7 +6,6 @@
 #include "media/DateiLeser.h"
 
 #include <cstring>
-#include <limits>
 
 namespace {
 // Die Suche endet fest bei Byte 102400, unabhängig von der Einstellung TAGsBytesSuchen.

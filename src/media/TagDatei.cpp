@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -73,12 +74,26 @@ bool DateiRestLesen(const DateiRest& rest, std::string& inhalt) {
     return BereicheKopieren(rest, [&](const char* d, size_t n) { inhalt.append(d, n); return true; }, fehler);
 }
 
-NeuSchreibenErgebnis DateiNeuSchreiben(const std::string& ziel, const std::string& neu, std::string_view vorn,
-                                       int64_t nullen, const DateiRest& rest) {
+namespace {
+// Das Ziel eines symbolischen Verweises; sonst der Pfad selbst.
+std::string VerweisAufgelöst(const std::string& pfad) {
     struct stat st {};
-    if (::stat(ziel.c_str(), &st) != 0) return {NeuSchreibenSchritt::Anlegen, errno};
+    if (::lstat(pfad.c_str(), &st) != 0 || !S_ISLNK(st.st_mode)) return pfad;
+    char* echt = ::realpath(pfad.c_str(), nullptr);
+    std::string aus = echt ? echt : pfad;
+    std::free(echt);
+    return aus;
+}
+}  // namespace
+
+NeuSchreibenErgebnis DateiNeuSchreiben(const std::string& zielPfad, const std::string& neuPfad, std::string_view vorn,
+                                       int64_t nullen, const DateiRest& rest) {
+    const std::string ziel = VerweisAufgelöst(zielPfad);
+    const std::string neu = ziel == zielPfad ? neuPfad : ziel + "-neu";
+    struct stat st {};
+    if (::stat(ziel.c_str(), &st) != 0) return {NeuSchreibenSchritt::Anlegen, errno, neu};
     int aus = ::open(neu.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-    if (aus < 0) return {NeuSchreibenSchritt::Anlegen, errno};
+    if (aus < 0) return {NeuSchreibenSchritt::Anlegen, errno, neu};
     int fehler = 0;
     bool gut = AllesSchreiben(aus, vorn.data(), vorn.size(), fehler) && NullenSchreiben(aus, nullen, fehler) &&
                BereicheKopieren(rest, [&](const char* d, size_t n) { return AllesSchreiben(aus, d, n, fehler); }, fehler);
@@ -95,10 +110,10 @@ NeuSchreibenErgebnis DateiNeuSchreiben(const std::string& ziel, const std::strin
     if (::close(aus) != 0 && gut) scheitern();
     if (!gut) {
         ::unlink(neu.c_str());
-        return {NeuSchreibenSchritt::Schreiben, fehler};
+        return {NeuSchreibenSchritt::Schreiben, fehler, neu};
     }
-    if (::rename(neu.c_str(), ziel.c_str()) != 0) return {NeuSchreibenSchritt::Ersetzen, errno};
-    return {};
+    if (::rename(neu.c_str(), ziel.c_str()) != 0) return {NeuSchreibenSchritt::Ersetzen, errno, neu};
+    return {NeuSchreibenSchritt::Fertig, 0, neu};
 }
 
 bool DateiBeschreibbar(const std::string& pfad, int& systemFehler) {

@@ -29,11 +29,14 @@ enum class NeuSchreibenSchritt { Fertig, Anlegen, Schreiben, Ersetzen };
 struct NeuSchreibenErgebnis {
     NeuSchreibenSchritt schritt = NeuSchreibenSchritt::Fertig;
     int systemFehler = 0;  // errno des gescheiterten Schritts
+    std::string neuPfad;   // die tatsächlich benutzte neue Datei
     bool Gelungen() const { return schritt == NeuSchreibenSchritt::Fertig; }
 };
 // Schreibt vorn, dann nullen NUL-Bytes, dann den Rest in die neue Datei neu (sie darf noch nicht
 // bestehen), gibt ihr die Rechte von ziel und benennt sie über ziel um. Scheitert Anlegen oder
 // Schreiben, ist neu wieder weg und ziel unberührt; scheitert das Umbenennen, bleibt neu liegen.
+// Ist ziel ein symbolischer Verweis, bleibt er: ersetzt wird die Datei, auf die er zeigt (die
+// neue Datei liegt dann neben ihr).
 NeuSchreibenErgebnis DateiNeuSchreiben(const std::string& ziel, const std::string& neu, std::string_view vorn,
                                        int64_t nullen, const DateiRest& rest);
 

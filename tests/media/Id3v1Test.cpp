@@ -3,9 +3,11 @@
 #include "media/Id3v1.h"
 #include "support/Attrappen.h"
 #include "support/MpegDaten.h"
+#include "support/OhneVorrechte.h"
 #include "support/TestOrdner.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace {
 const std::string kAudio = mpeg::Frame(mpeg::Kopf{}) + mpeg::Füllung(3000);
@@ -143,6 +145,17 @@ TEST(Id3v1, Speichern) {
     EXPECT_TRUE(Mp3TAGSpeichernV1(u.k, 1, neu, fehler));
     EXPECT_EQ(DateiLesen(pfad), kAudio + neu);
     EXPECT_FALSE(Mp3TAGSpeichernV1(u.k, 2, neu, fehler));
+
+    // Schreibgeschützt: Meldung, die Datei bleibt.
+    ::chmod(o.Pfad().c_str(), 0777);
+    ::chmod(pfad.c_str(), 0444);
+    const std::string meldung = OhneVorrechteAusführen([&] {
+        std::string f;
+        return Mp3TAGSpeichernV1Datei(pfad, alt, f) ? std::string("gelungen") : f;
+    });
+    EXPECT_EQ(meldung.substr(0, meldung.find('\n')), "Die ID3v1-TAG der Datei '" + pfad + "' konnte nicht gespeichert werden.");
+    EXPECT_NE(meldung.find("(Fehler 75)"), std::string::npos);
+    EXPECT_EQ(DateiLesen(pfad), kAudio + neu);
 }
 
 TEST(Id3v1, Entfernen) {

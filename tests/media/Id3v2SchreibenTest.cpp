@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 using mpeg::Text;
@@ -220,6 +221,20 @@ TEST(Id3v2Schreiben, RechteUndSchreibschutz) {
         struct stat st {};
         ::stat(pfad.c_str(), &st);
         EXPECT_EQ(st.st_mode & 07777, 0640u);
+    }
+
+    // Ein symbolischer Verweis bleibt einer; neu geschrieben wird die Datei, auf die er zeigt.
+    {
+        TestUmgebung u;
+        std::string fehler;
+        DateiSchreiben(o / "echt.mp3", kAudio);
+        ASSERT_EQ(::symlink((o / "echt.mp3").c_str(), (o / "verweis.mp3").c_str()), 0);
+        ASSERT_TRUE(MP3TagSpeichernV2Datei(u.k, o / "verweis.mp3", fehler, Felder("a", "b")));
+        struct stat st {};
+        ::lstat((o / "verweis.mp3").c_str(), &st);
+        EXPECT_TRUE(S_ISLNK(st.st_mode));
+        EXPECT_EQ(Lesen(o / "echt.mp3").Mp3_ID3v2_TIT2, "b");
+        EXPECT_FALSE(DoesExist(o / "echt.mp3-neu"));
     }
 
     // Schreibgeschützte Datei: an Ort und Stelle und beim Neuschreiben dieselbe Meldung.
