@@ -70,7 +70,8 @@ int UntagAusführen(CliKontext& c, const std::vector<std::string>& argumente) {
     const std::string pfad = VollerDateiPfad(datei);
     DateiInfo arbeit;
     DateiRest rest;
-    const bool gelungen = version == "--v1" ? TAGEntfernen(c.k, arbeit, pfad) : TAGEntfernenV2(c.k, pfad, 0, false, rest);
+    const bool gelungen =
+        version == "--v1" ? TAGEntfernen(c.k, arbeit, pfad) : TAGEntfernenV2(c.k, pfad, 0, false, rest);
     // INTEGRATION: Indexeintrag zu pfad auffrischen (wie bei tag).
     return gelungen ? 0 : 1;
 }

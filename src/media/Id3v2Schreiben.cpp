@@ -21,7 +21,8 @@ constexpr int32_t kRahmenPlätze = 19;
 // Vier Bytes aus 32 Bittext-Zeichen, je acht über BitStringZuLong.
 std::string VierBytes(const std::string& bits) {
     std::string aus;
-    for (int i = 0; i < 4; ++i) aus.push_back(static_cast<char>(BitStringZuLong(std::string_view(bits).substr(i * 8, 8))));
+    for (int i = 0; i < 4; ++i)
+        aus.push_back(static_cast<char>(BitStringZuLong(std::string_view(bits).substr(i * 8, 8))));
     return aus;
 }
 }  // namespace
@@ -44,7 +45,8 @@ bool V2FrameAnhängen(const std::string& text, const std::string& id, int32_t& a
     if (anzahl + 1 > frames.UBound()) return false;
     const std::string inhalt = Utf8ZuWindows1252(text);
     ++anzahl;
-    frames[anzahl] = Mp3TAGSpeichernV2FrameHeaderZurückgeben(static_cast<int32_t>(inhalt.size()) + 1, id) + '\0' + inhalt;
+    const auto größe = static_cast<int32_t>(inhalt.size()) + 1;  // mit dem Kodierungsbyte
+    frames[anzahl] = Mp3TAGSpeichernV2FrameHeaderZurückgeben(größe, id) + '\0' + inhalt;
     return true;
 }
 
@@ -141,7 +143,8 @@ bool Neuschreiben(const std::string& pfad, const std::string& vorn, int64_t padd
 bool MP3TagSpeichernV2Datei(Kartei& k, const std::string& dateiname, std::string& fehlertext, const DateiInfo& info,
                             int32_t eintrag) {
     if (!DoesExist(dateiname)) {
-        fehlertext = "Die ID3v2-TAG der Datei '" + dateiname + "' konnte nicht gespeichert werden.\nDie Datei existiert nicht.";
+        fehlertext = "Die ID3v2-TAG der Datei '" + dateiname +
+                     "' konnte nicht gespeichert werden.\nDie Datei existiert nicht.";
         return false;
     }
     std::string rahmen;
@@ -159,8 +162,8 @@ bool MP3TagSpeichernV2Datei(Kartei& k, const std::string& dateiname, std::string
     const bool neuSchreiben = !gefunden || altGröße < 0 || summe + 10 > altGröße || alt.Mp3_ID3v2_TAGPosition >= 2;
     const bool altEntfernen = neuSchreiben && gefunden && altGröße >= 0;
 
-    int64_t padding = neuSchreiben ? static_cast<int64_t>(RundenGerade((summe + 10) * double(k.E.TAGsProzentHinzufügen) / 100))
-                                   : altGröße - (summe + 10);
+    const double anteil = (summe + 10) * double(k.E.TAGsProzentHinzufügen) / 100;
+    int64_t padding = neuSchreiben ? static_cast<int64_t>(RundenGerade(anteil)) : altGröße - (summe + 10);
     padding = std::clamp<int64_t>(padding, 0, std::numeric_limits<int32_t>::max() / 2);  // nie ein Kopf, der lügt
     const std::string vorn = Mp3TAGSpeichernV2TAGHeaderZurückgeben(static_cast<int32_t>(padding + summe)) + rahmen;
     if (!neuSchreiben) return AnOrtUndStelle(dateiname, vorn, padding, fehlertext);
@@ -236,7 +239,8 @@ bool TAGEntfernenV2(Kartei& k, const std::string& dateiname, int32_t eintrag, bo
                                "und nicht durch eine andere Anwendung geöffnet wurde.", Meldung::Ausrufezeichen);
         return false;
     }
-    DateiInfo aufgefrischt = MedienInfosLesen(k, dateiname, arbeitsdaten ? *arbeitsdaten : datensatz, "01", false, "1", "0");
+    const DateiInfo& basis = arbeitsdaten ? *arbeitsdaten : datensatz;
+    DateiInfo aufgefrischt = MedienInfosLesen(k, dateiname, basis, "01", false, "1", "0");
     if (arbeitsdaten) *arbeitsdaten = aufgefrischt;
     if (k.DateiDaten.GültigerIndex(eintrag)) {
         k.DateiDaten[eintrag] = aufgefrischt;

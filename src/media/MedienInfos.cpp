@@ -57,7 +57,8 @@ DateiInfo MedienInfosLesen(Kartei& k, const std::string& dateiname, const DateiI
     if (größeLesen == "1") {
         if (datei.Offen()) {
             // Long: eine Datei ab 2 GiB lässt den alten Wert stehen.
-            if (datei.Länge() <= std::numeric_limits<int32_t>::max()) r.Datei_Größe = static_cast<int32_t>(datei.Länge());
+            if (datei.Länge() <= std::numeric_limits<int32_t>::max())
+                r.Datei_Größe = static_cast<int32_t>(datei.Länge());
             r.Datei_Wechselmedium = WechselmediumZuPfad(k, dateiname);
         } else {
             r.Datei_Größe = -1;

@@ -95,8 +95,9 @@ NeuSchreibenErgebnis DateiNeuSchreiben(const std::string& zielPfad, const std::s
     int aus = ::open(neu.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (aus < 0) return {NeuSchreibenSchritt::Anlegen, errno, neu};
     int fehler = 0;
+    auto schreiben = [&](const char* d, size_t n) { return AllesSchreiben(aus, d, n, fehler); };
     bool gut = AllesSchreiben(aus, vorn.data(), vorn.size(), fehler) && NullenSchreiben(aus, nullen, fehler) &&
-               BereicheKopieren(rest, [&](const char* d, size_t n) { return AllesSchreiben(aus, d, n, fehler); }, fehler);
+               BereicheKopieren(rest, schreiben, fehler);
     // Besitzer und Rechte der alten Datei; der Besitzer gelingt nur mit Vorrechten.
     auto scheitern = [&] {
         fehler = errno;

@@ -153,7 +153,8 @@ TEST(Id3v1, Speichern) {
         std::string f;
         return Mp3TAGSpeichernV1Datei(pfad, alt, f) ? std::string("gelungen") : f;
     });
-    EXPECT_EQ(meldung.substr(0, meldung.find('\n')), "Die ID3v1-TAG der Datei '" + pfad + "' konnte nicht gespeichert werden.");
+    EXPECT_EQ(meldung.substr(0, meldung.find('\n')),
+              "Die ID3v1-TAG der Datei '" + pfad + "' konnte nicht gespeichert werden.");
     EXPECT_NE(meldung.find("(Fehler 75)"), std::string::npos);
     EXPECT_EQ(DateiLesen(pfad), kAudio + neu);
 }

@@ -46,7 +46,8 @@ TEST(Id3v2Schreiben, KoepfeUndRahmenfolge) {
     EXPECT_EQ(Mp3TAGSpeichernV2TAGHeaderZurückgeben(511), std::string("ID3\x03\0\0\0\0\x03\x7F", 10));
     EXPECT_EQ(Mp3TAGSpeichernV2TAGHeaderZurückgeben(70000), std::string("ID3\x03\0\0", 6) + mpeg::SyncSafe(70000));
     EXPECT_EQ(Mp3TAGSpeichernV2TAGHeaderZurückgeben(0x0FFFFFFF), std::string("ID3\x03\0\0\x7F\x7F\x7F\x7F", 10));
-    EXPECT_EQ(Mp3TAGSpeichernV2FrameHeaderZurückgeben(70000, "TIT2"), "TIT2" + mpeg::BigEndian(70000, 4) + std::string(2, '\0'));
+    EXPECT_EQ(Mp3TAGSpeichernV2FrameHeaderZurückgeben(70000, "TIT2"),
+              "TIT2" + mpeg::BigEndian(70000, 4) + std::string(2, '\0'));
 
     TestUmgebung u;
     TestOrdner o;
