@@ -1,24 +1,12 @@
 // show: die Einträge des Index mit allen Feldern, oder nur ihre Zahl.
 #include "app/DateiInfo.h"
 #include "cli/Befehle.h"
+#include "cli/DatensatzAusgabe.h"
 #include "cli/IndexLaden.h"
 
 #include <cstdio>
 
 namespace {
-void BlockAnhängen(std::string& aus, const Kartei& k, int32_t nummer) {
-    aus += "Nummer=" + std::to_string(nummer) + "\n";
-    aus += "DateiPfade=" + AusgabeMaskieren(k.DateiPfade[nummer]) + "\n";
-    int anzahl = 0;
-    const DateiInfoFeld* felder = DateiInfoFelder(anzahl);
-    std::string wert;
-    for (int i = 0; i < anzahl; ++i) {
-        DateiInfoFeldLesen(k.DateiDaten[nummer], felder[i].name, wert);
-        aus.append(felder[i].name).append("=").append(AusgabeMaskieren(wert)).append("\n");
-    }
-    aus += "\n";
-}
-
 int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
     bool nurAnzahl = false;
     int32_t eintrag = 0;
@@ -45,7 +33,7 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
     const int32_t von = eintrag ? eintrag : 1, bis = eintrag ? eintrag : k.DateiAnzahl;
     std::string aus;
     for (int32_t n = von; n <= bis; ++n) {
-        BlockAnhängen(aus, k, n);
+        DatensatzBlockAnhängen(aus, n, k.DateiPfade[n], k.DateiDaten[n]);
         if (aus.size() > (1u << 20)) {  // in großen Stücken ausgeben
             std::fwrite(aus.data(), 1, aus.size(), stdout);
             aus.clear();

@@ -6,6 +6,7 @@ extern const Befehl BefehlShow, BefehlField, BefehlSave;
 // Einstellungen
 extern const Befehl BefehlSettings;
 // Mediendateien
+extern const Befehl BefehlInfo, BefehlTag, BefehlUntag;
 // Aufnahme
 // Suche
 
@@ -16,6 +17,7 @@ const std::vector<Befehl>& AlleBefehle() {
         // Einstellungen
         BefehlSettings,
         // Mediendateien
+        BefehlInfo, BefehlTag, BefehlUntag,
         // Aufnahme
         // Suche
     };
