@@ -100,8 +100,10 @@ bool IstGültigesDatum(int32_t jahr, int32_t monat, int32_t tag) {
 }
 
 bool DatumLesen(std::string_view roh, Datum& ergebnis) {
-    std::string text = Trim(roh);
-    std::string_view t = text;
+    // Leerzeichen außen weg, ohne Kopie: IstDatum läuft beim Laden für jeden Eintrag.
+    std::string_view t = roh;
+    while (!t.empty() && t.front() == ' ') t.remove_prefix(1);
+    while (!t.empty() && t.back() == ' ') t.remove_suffix(1);
     Datum d{0, 0, 0, 0, 0, 0};
     size_t pos = 0;
     bool deutsch = ZiffernLesen(t, pos, 1, 2, d.Tag) && Zeichen(t, pos, '.') &&

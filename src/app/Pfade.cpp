@@ -3,22 +3,28 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-std::string PfadZurückgeben(std::string_view pfad) {
+std::string_view PfadZurückgebenSicht(std::string_view pfad) {
     auto p = pfad.rfind('/');
-    return p == std::string_view::npos ? std::string() : std::string(pfad.substr(0, p));
+    return p == std::string_view::npos ? std::string_view() : pfad.substr(0, p);
 }
 
-std::string DateinameAusPfad(std::string_view pfad) {
+std::string_view DateinameAusPfadSicht(std::string_view pfad) {
     auto p = pfad.rfind('/');
-    return std::string(p == std::string_view::npos ? pfad : pfad.substr(p + 1));
+    return p == std::string_view::npos ? pfad : pfad.substr(p + 1);
 }
 
-std::string DateiEndung(std::string_view pfad) {
+std::string_view DateiEndungSicht(std::string_view pfad) {
     auto punkt = pfad.rfind('.');
     if (punkt == std::string_view::npos) return {};
     if (pfad.find('/', punkt) != std::string_view::npos) return {};
-    return std::string(pfad.substr(punkt));
+    return pfad.substr(punkt);
 }
+
+std::string PfadZurückgeben(std::string_view pfad) { return std::string(PfadZurückgebenSicht(pfad)); }
+
+std::string DateinameAusPfad(std::string_view pfad) { return std::string(DateinameAusPfadSicht(pfad)); }
+
+std::string DateiEndung(std::string_view pfad) { return std::string(DateiEndungSicht(pfad)); }
 
 bool IstVollerPfad(std::string_view pfad) { return !pfad.empty() && pfad.front() == '/'; }
 

@@ -9,6 +9,10 @@ std::string PfadZurückgeben(std::string_view pfad);
 std::string DateinameAusPfad(std::string_view pfad);
 // Vom letzten "." an, mit Punkt; leer ohne Punkt oder wenn danach noch ein "/" kommt.
 std::string DateiEndung(std::string_view pfad);
+// Dasselbe ohne Kopie, für heiße Schleifen (Suche, Sortieren): Ansichten in pfad hinein.
+std::string_view PfadZurückgebenSicht(std::string_view pfad);
+std::string_view DateinameAusPfadSicht(std::string_view pfad);
+std::string_view DateiEndungSicht(std::string_view pfad);
 // Ein voller Pfad beginnt mit "/".
 bool IstVollerPfad(std::string_view pfad);
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace {
 
@@ -70,6 +71,13 @@ bool StehtAn(std::string_view text, size_t pos, std::string_view suche) {
 
 bool IstGültigesUtf8(std::string_view bytes) {
     size_t pos = 0;
+    // Reines ASCII (der Normalfall in der Indexdatei) acht Bytes auf einmal überspringen.
+    while (pos + 8 <= bytes.size()) {
+        uint64_t block;
+        std::memcpy(&block, bytes.data() + pos, 8);
+        if (block & 0x8080808080808080ULL) break;
+        pos += 8;
+    }
     while (pos < bytes.size()) {
         if (static_cast<unsigned char>(bytes[pos]) < 0x80) {
             ++pos;
@@ -109,6 +117,33 @@ std::string Utf8ZuWindows1252(std::string_view text) {
             auto it = std::find(kCp1252Oben.begin(), kCp1252Oben.end(), static_cast<char32_t>(cp));
             aus.push_back(it == kCp1252Oben.end() ? '?' : static_cast<char>(0x80 + (it - kCp1252Oben.begin())));
         }
+    }
+    return aus;
+}
+
+std::string Utf16ZuUtf8(std::string_view bytes, bool bigEndian) {
+    std::string aus;
+    aus.reserve(bytes.size() / 2);
+    auto einheit = [&](size_t i) -> char32_t {
+        const auto a = static_cast<unsigned char>(bytes[i]), b = static_cast<unsigned char>(bytes[i + 1]);
+        return bigEndian ? char32_t(a << 8 | b) : char32_t(b << 8 | a);
+    };
+    for (size_t i = 0; i + 1 < bytes.size(); i += 2) {
+        char32_t u = einheit(i);
+        if (u == 0xFEFF) continue;
+        if (u == 0xFFFE) {
+            bigEndian = !bigEndian;
+            continue;
+        }
+        if (u >= 0xD800 && u <= 0xDBFF && i + 3 < bytes.size()) {
+            const char32_t tief = einheit(i + 2);
+            if (tief >= 0xDC00 && tief <= 0xDFFF) {
+                Utf8Anhängen(aus, 0x10000 + ((u - 0xD800) << 10) + (tief - 0xDC00));
+                i += 2;
+                continue;
+            }
+        }
+        Utf8Anhängen(aus, u >= 0xD800 && u <= 0xDFFF ? char32_t(0xFFFD) : u);
     }
     return aus;
 }

@@ -14,6 +14,9 @@ bool IstGültigesUtf8(std::string_view bytes);
 std::string Windows1252ZuUtf8(std::string_view bytes);
 // UTF-8 → Windows-1252; was dort fehlt, wird "?". Ungültiges UTF-8 wird byteweise übernommen.
 std::string Utf8ZuWindows1252(std::string_view text);
+// UTF-16 → UTF-8. Ein BOM (FEFF) wird übersprungen, ein vertauschtes (FFFE) wechselt die
+// Byte-Reihenfolge; einzelne Ersatzzeichen-Hälften werden zu U+FFFD, ein Restbyte entfällt.
+std::string Utf16ZuUtf8(std::string_view bytes, bool bigEndian);
 // Ein aus einer Datei gelesenes Feld: gültiges UTF-8 bleibt, sonst gilt Windows-1252.
 std::string DateiTextLesen(std::string_view bytes);
 

@@ -86,6 +86,22 @@ bool LongAddieren(int32_t a, int32_t b, int32_t& ziel) {
     return true;
 }
 
+bool LongLesen(std::string_view text, int32_t& ziel) {
+    // Reine Ziffern, höchstens neun: kein Überlauf möglich, keine Zerlegung nötig.
+    size_t i = !text.empty() && text[0] == '-' ? 1 : 0;
+    if (text.size() > i && text.size() - i <= 9) {
+        int32_t z = 0;
+        size_t j = i;
+        while (j < text.size() && text[j] >= '0' && text[j] <= '9') z = z * 10 + (text[j++] - '0');
+        if (j == text.size()) {
+            ziel = i ? -z : z;
+            return true;
+        }
+    }
+    auto w = ZahlWert(text);
+    return w && LongAus(*w, ziel);
+}
+
 int32_t ZahlLesen(std::string_view text) {
     auto w = ZahlWert(text);
     int32_t z = 0;
@@ -113,6 +129,19 @@ std::string TausenderFormat(double wert) {
     char puffer[64];
     std::snprintf(puffer, sizeof puffer, "%.0f", std::fabs(r));
     return (negativ ? "-" : "") + Gruppieren(puffer);
+}
+
+void TausenderFormatAnhängen(std::string& ziel, int64_t wert) {
+    char puffer[24];
+    int n = 0;
+    uint64_t rest = wert < 0 ? 0 - static_cast<uint64_t>(wert) : static_cast<uint64_t>(wert);
+    do {
+        if (n > 0 && n % 4 == 3) puffer[n++] = '.';
+        puffer[n++] = static_cast<char>('0' + rest % 10);
+        rest /= 10;
+    } while (rest > 0);
+    if (wert < 0) ziel.push_back('-');
+    while (n > 0) ziel.push_back(puffer[--n]);
 }
 
 std::string ZweiStellenFormat(double wert) {

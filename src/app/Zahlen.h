@@ -25,6 +25,9 @@ bool IntegerAus(double wert, int16_t& ziel);
 // Ganzzahlige Summen mit Überlaufprüfung.
 bool LongAddieren(int32_t a, int32_t b, int32_t& ziel);
 
+// IsNumeric und CLng in einem: true, wenn der Text numerisch ist und in 32 Bit passt.
+// Schneller Weg für reine Ziffern (Indexdatei: Millionen Felder).
+bool LongLesen(std::string_view text, int32_t& ziel);
 // Die Zahl im Text (CLng), 0 wenn leer, nicht numerisch oder zu groß.
 int32_t ZahlLesen(std::string_view text);
 // Streng: nur optionales Vorzeichen und Ziffern, ohne Leerzeichen; nullopt sonst oder
@@ -35,5 +38,7 @@ std::optional<int64_t> GanzeZahlLesen(std::string_view text);
 std::string ZahlText(int64_t wert);
 // Format "##,##0": Tausenderpunkte, keine Nachkommastellen (gerundet, Hälften zur geraden).
 std::string TausenderFormat(double wert);
+// Dasselbe für ganze Zahlen, an ziel angehängt (ohne eigene Zeichenkette).
+void TausenderFormatAnhängen(std::string& ziel, int64_t wert);
 // Format "0,00": zwei Nachkommastellen mit Komma, Tausenderpunkte.
 std::string ZweiStellenFormat(double wert);

@@ -2,18 +2,22 @@
 
 // Jeder Befehl steht in seiner eigenen Datei (BefehlXyz.cpp) und meldet sich hier an.
 // Index
+extern const Befehl BefehlShow, BefehlField, BefehlSave;
 // Einstellungen
 extern const Befehl BefehlSettings;
 // Mediendateien
+extern const Befehl BefehlInfo, BefehlTag, BefehlUntag;
 // Aufnahme
 // Suche
 
 const std::vector<Befehl>& AlleBefehle() {
     static const std::vector<Befehl> befehle = {
         // Index
+        BefehlShow, BefehlField, BefehlSave,
         // Einstellungen
         BefehlSettings,
         // Mediendateien
+        BefehlInfo, BefehlTag, BefehlUntag,
         // Aufnahme
         // Suche
     };

@@ -4,6 +4,19 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
+
+// Ein Eintrag der Ereignis-Überwachung. Keine Funktion des Programms füllt die Liste; der Leser
+// übergeht "#TERMIN:"-Zeilen, der Schreiber schreibt, was in ihr steht.
+struct Termin {
+    std::string Beschreibung;
+    std::string Datum;
+    int16_t Kategorie = 0;
+    std::string Infos;
+    int16_t Benachrichtigen = 0;
+    std::string Zeiteinheit;
+    int16_t Erinnern = 0;
+};
 
 struct IndexOptionen {
     // Ordner-Abgleich: drei parallele Felder ab 1; SyncLeer markiert die leere Liste
@@ -24,4 +37,6 @@ struct IndexOptionen {
     std::string SpaltenNutzerformat = "%Interpret% - %Titel%";
     int16_t SpaltenLeiste = 1;
     int16_t SpaltenGitter = 0;  // wird beim Laden nicht zurückgesetzt
+
+    std::vector<Termin> TerminListe;
 };

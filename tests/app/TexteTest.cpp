@@ -95,3 +95,13 @@ TEST(Texte, TextZerlegenUndNull) {
     EXPECT_EQ(NullAbschneiden(std::string("ab\0cd\0", 6)), "ab");
     EXPECT_EQ(NullAbschneiden(std::string("ab\0cd", 5)), std::string("ab\0cd", 5));  // endet nicht auf NUL
 }
+
+TEST(Texte, Utf16ZuUtf8) {
+    using namespace std::string_literals;
+    EXPECT_EQ(Utf16ZuUtf8("\xFF\xFE" "A\0\xE4\0"s, false), "Aä");
+    EXPECT_EQ(Utf16ZuUtf8("\xFE\xFF\0A\0\xE4"s, false), "Aä");  // vertauschtes BOM wechselt die Reihenfolge
+    EXPECT_EQ(Utf16ZuUtf8("\0A\x20\xAC"s, true), "A€");
+    EXPECT_EQ(Utf16ZuUtf8("\x3D\xD8\x00\xDE"s, false), "\xF0\x9F\x98\x80");  // Ersatzpaar
+    EXPECT_EQ(Utf16ZuUtf8("\x3D\xD8" "A\0"s, false), "\xEF\xBF\xBD" "A");    // einzelne Hälfte
+    EXPECT_EQ(Utf16ZuUtf8("A\0B"s, false), "A");                               // Restbyte entfällt
+}

@@ -1,0 +1,25 @@
+#include "cli/IndexLaden.h"
+
+#include "app/IndexOeffnen.h"
+#include "platform/Verzeichnisse.h"
+
+#include <charconv>
+#include <cstdio>
+
+bool IndexFürBefehlLaden(CliKontext& c) {
+    std::string standard;
+    if (c.indexPfad.empty()) {
+        OrdnerAnlegen(DatenOrdner());
+        standard = StandardIndexPfad();
+    }
+    c.k.Dateiname = c.indexPfad;
+    if (IndexÖffnen(c.k, standard)) return true;
+    std::fprintf(stderr, "Die Indexdatei '%s' wurde nicht geladen.\n", c.k.Dateiname.c_str());
+    return false;
+}
+
+bool NummerLesen(const std::string& text, int32_t& nummer) {
+    const char* ende = text.data() + text.size();
+    auto [p, fehler] = std::from_chars(text.data(), ende, nummer);
+    return fehler == std::errc() && p == ende;
+}

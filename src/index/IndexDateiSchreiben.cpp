@@ -1,0 +1,225 @@
+#include "app/Kartei.h"
+#include "app/Pfade.h"
+#include "app/Tabelle.h"
+#include "index/IndexDatei.h"
+#include "index/Spalten.h"
+#include "shell/Fortschritt.h"
+
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+constexpr size_t kWertGrenze = 1000;          // mehr liest der Leser nicht
+constexpr size_t kPufferGröße = size_t(4) << 20;  // ein write() je 4 MB
+
+// Ein Wert, wie ihn der Leser wieder annimmt: höchstens 1000 Bytes, an einer Zeichengrenze gekürzt.
+std::string_view Gekürzt(std::string_view wert) {
+    if (wert.size() <= kWertGrenze) return wert;
+    size_t n = kWertGrenze;
+    while (n > 0 && (static_cast<unsigned char>(wert[n]) & 0xC0) == 0x80) --n;
+    return wert.substr(0, n);
+}
+
+// Ein Zeilenumbruch im Wert würde die Zeile teilen: er wird zum Leerzeichen.
+void WertAnhängen(std::string& aus, std::string_view wert) {
+    const size_t anfang = aus.size();
+    aus.append(wert);
+    for (char umbruch : {'\r', '\n'}) {
+        char* p = aus.data() + anfang;
+        char* ende = aus.data() + aus.size();
+        while ((p = static_cast<char*>(std::memchr(p, umbruch, size_t(ende - p)))) != nullptr) *p++ = ' ';
+    }
+}
+
+// Zahlen eines Datensatzes als Text, ohne eigene Zeichenketten.
+struct ZahlText {
+    char zeichen[24];
+    std::string_view text;
+    explicit ZahlText(int64_t wert) {
+        auto [ende, fehler] = std::to_chars(zeichen, zeichen + sizeof zeichen, wert);
+        (void)fehler;
+        text = std::string_view(zeichen, size_t(ende - zeichen));
+    }
+};
+
+void DatensatzZeile(std::string& aus, const std::string& pfad, const DateiInfo& d) {
+    const ZahlText größe(d.Datei_Größe), bitrate(d.Header_Bitrate), dauer(d.Header_Dauer),
+        frequenz(d.Header_Frequenz), frames(d.Header_Frames), vbr(BoolAlsZahl(d.Header_VBR)), typ(d.Datei_Typ),
+        anzahl(d.Datei_AngefordertAnzahl), tagGröße(d.Mp3_ID3v2_TAGGröße);
+    const std::string genre = GenreAlsZahl(d.Mp3_ID3v1_Genre);
+    const std::array<std::string_view, 41> wert = {
+        "", pfad, d.Mp3_ID3v1_Album, d.Mp3_ID3v1_Interpret, d.Mp3_ID3v1_Kommentar, genre, d.Mp3_ID3v1_Titel,
+        d.Mp3_ID3v1_Track, d.Mp3_ID3v1_Jahr, größe.text, d.Datei_Wechselmedium, bitrate.text, dauer.text,
+        frequenz.text, frames.text, vbr.text, d.Datei_HinzugefügtAm, typ.text, d.Header_Modus, anzahl.text,
+        d.Datei_AngefordertGespieltAm,
+        // ID3v2
+        d.Mp3_ID3v2_PCNT, d.Mp3_ID3v2_TALB, d.Mp3_ID3v2_TCOP, d.Mp3_ID3v2_TENC, d.Mp3_ID3v2_TCON,
+        d.Mp3_ID3v2_TPUB, d.Mp3_ID3v2_TPE1, d.Mp3_ID3v2_TYER, d.Mp3_ID3v2_COMM, d.Mp3_ID3v2_TLEN,
+        d.Mp3_ID3v2_WXXX, d.Mp3_ID3v2_TMED, d.Mp3_ID3v2_TSSE, d.Mp3_ID3v2_TCOM, d.Mp3_ID3v2_TLAN, tagGröße.text,
+        d.Mp3_ID3v2_Version, d.Mp3_ID3v2_TRCK, d.Mp3_ID3v2_TOPE, d.Mp3_ID3v2_TIT2};
+    const int felder = d.Mp3_ID3v2_Status == 1 ? 40 : 20;
+    aus.append("#TAG:");
+    for (int i = 1; i <= felder; ++i) {
+        if (i > 1) aus.push_back('/');
+        const ZahlText länge(int64_t(Gekürzt(wert[size_t(i)]).size()));
+        aus.append(GrößeText(länge.text));
+    }
+    aus.push_back('|');
+    for (int i = 1; i <= felder; ++i) WertAnhängen(aus, Gekürzt(wert[size_t(i)]));
+    aus.append("\r\n");
+}
+
+// Schreibt über einen großen Puffer in die temporäre Datei; merkt sich den ersten Fehler.
+class Schreiber {
+public:
+    explicit Schreiber(const std::string& pfad) : fd_(::open(pfad.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644)) {
+        if (fd_ < 0) fehler_ = errno;
+        puffer_.reserve(kPufferGröße + 64 * 1024);
+    }
+    ~Schreiber() { Schließen(); }
+    std::string& Puffer() { return puffer_; }
+    // Eine Zeile mit CR LF; Werte ohne Umbrüche.
+    void Zeile(std::string_view teil1, std::string_view wert = {}) {
+        puffer_.append(teil1);
+        WertAnhängen(puffer_, wert);
+        puffer_.append("\r\n");
+        Prüfen();
+    }
+    void Prüfen() {
+        if (puffer_.size() >= kPufferGröße) Leeren();
+    }
+    bool Schließen() {
+        Leeren();
+        if (fd_ >= 0 && ::close(fd_) != 0 && fehler_ == 0) fehler_ = errno;
+        fd_ = -1;
+        return fehler_ == 0;
+    }
+    int Fehler() const { return fehler_; }
+
+private:
+    void Leeren() {
+        size_t geschrieben = 0;
+        while (fd_ >= 0 && fehler_ == 0 && geschrieben < puffer_.size()) {
+            ssize_t n = ::write(fd_, puffer_.data() + geschrieben, puffer_.size() - geschrieben);
+            if (n < 0 && errno == EINTR) continue;
+            if (n <= 0) fehler_ = n < 0 ? errno : EIO;
+            else geschrieben += size_t(n);
+        }
+        puffer_.clear();
+    }
+
+    int fd_;
+    int fehler_ = 0;
+    std::string puffer_;
+};
+
+void OptionenSchreiben(Kartei& k, Schreiber& s) {
+    const IndexOptionen& o = k.Optionen;
+    if (!o.SyncLeer)
+        for (int32_t i = 1; i <= o.SyncOrdner.UBound(); ++i) {
+            const std::string wert = o.SyncOrdner[i] + "," +
+                                     std::to_string(o.SyncUnterordner.GültigerIndex(i) ? o.SyncUnterordner[i] : 0) +
+                                     "," + (o.SyncKopierenInOrdner.GültigerIndex(i) ? o.SyncKopierenInOrdner[i] : "");
+            s.Zeile("#OPT:SYNC=", wert);
+        }
+    s.Zeile("#OPT:SYNC_ENTFERNEN=", std::to_string(o.SyncEntfernen));
+    if (!o.DateitypenLeer)
+        for (int32_t i = 1; i <= o.DateitypEintrag.UBound(); ++i)
+            s.Zeile("#OPT:VERWALTEN=", o.DateitypEintrag[i] + "," +
+                                           (o.DateitypKlasse.GültigerIndex(i) ? o.DateitypKlasse[i] : ""));
+    // Eine Liste ohne Spalten war nie eingerichtet; sie soll die gespeicherte Anordnung nicht löschen.
+    if (!k.Liste.lstSongs.spalten.empty()) SpaltenSpeichern(k, k.Liste.lstSongs);
+    s.Zeile("#OPT:SPALTEN_LEISTE=", std::to_string(o.SpaltenLeiste));
+    s.Zeile("#OPT:SPALTEN_GITTER=", std::to_string(o.SpaltenGitter));
+    s.Zeile("#OPT:SPALTEN=", o.Spalten);
+    s.Zeile("#OPT:SPALTEN_NUTZERFORMAT=", o.SpaltenNutzerformat);
+}
+
+void TermineSchreiben(const IndexOptionen& o, Schreiber& s) {
+    for (const Termin& t : o.TerminListe) {
+        const std::string kat = std::to_string(t.Kategorie), ben = std::to_string(t.Benachrichtigen),
+                          eri = std::to_string(t.Erinnern);
+        const std::array<std::string_view, 7> wert = {t.Beschreibung, t.Datum, kat, t.Infos, ben, t.Zeiteinheit, eri};
+        std::string& aus = s.Puffer();
+        aus.append("#TERMIN:");
+        for (size_t i = 0; i < wert.size(); ++i) {
+            if (i > 0) aus.push_back('/');
+            aus.append(GrößeText(std::to_string(Gekürzt(wert[i]).size())));
+        }
+        aus.push_back('|');
+        for (auto w : wert) WertAnhängen(aus, Gekürzt(w));
+        aus.append("\r\n");
+        s.Prüfen();
+    }
+}
+
+bool Fehlermeldung(Kartei& k, int fehler) {
+    char text[256] = "";
+    const char* beschreibung = ::strerror_r(fehler, text, sizeof text);
+    k.ui.MeldungZeigen("Es ist ein Fehler beim Speichern der Indexdatei aufgetreten. (Fehler " + std::to_string(fehler) +
+                           ")\n" + beschreibung,
+                       Meldung::Ausrufezeichen);
+    FortschrittZeigenEnde(k);  // sonst bliebe das Hauptfenster gesperrt
+    return false;
+}
+}  // namespace
+
+std::string_view GrößeText(std::string_view text) { return text == "0" ? std::string_view() : text; }
+
+int32_t BoolAlsZahl(int64_t wert) { return wert == 0 ? 0 : 1; }
+
+std::string GenreAlsZahl(std::string_view text) {
+    return text.empty() ? std::string() : std::to_string(static_cast<unsigned char>(text[0]));
+}
+
+bool DateiSpeichern(Kartei& k, const std::string& pfad, bool mitFortschritt) {
+    const std::string temp = pfad + "~";
+    if (!DateiLöschenEinfach(temp)) {
+        k.ui.MeldungZeigen("Die Indexdatei '" + pfad + "' konnte nicht gespeichert werden, da die temporäre Datei '" +
+                               pfad + "~' nicht überschrieben werden konnte.",
+                           Meldung::Ausrufezeichen);
+        return false;
+    }
+    if (mitFortschritt) {
+        FortschrittZeigenStarten(k, k.DateiAnzahl, true, true, false, "Speichere Indexdatei");
+        mitFortschritt = FortschrittFensterOffen(k);
+    }
+    Schreiber s(temp);
+    if (s.Fehler() != 0) return Fehlermeldung(k, s.Fehler());
+    s.Zeile("#TAG:kk102");
+    OptionenSchreiben(k, s);
+    TermineSchreiben(k.Optionen, s);
+    for (int32_t i = 1; i <= k.DateiAnzahl && i <= k.DateiDaten.UBound(); ++i) {
+        DatensatzZeile(s.Puffer(), k.DateiPfade[i], k.DateiDaten[i]);
+        s.Prüfen();
+        if (mitFortschritt && !FortschrittZeigen(k, i, "")) {
+            FortschrittZeigenEnde(k);
+            s.Schließen();
+            DateiLöschenEinfach(temp);
+            return false;
+        }
+    }
+    if (!s.Schließen()) return Fehlermeldung(k, s.Fehler());
+    FortschrittZeigenEnde(k);
+
+    // rename ersetzt die alte Datei in einem Schritt: es gibt keinen Augenblick ohne Index.
+    if (::rename(temp.c_str(), pfad.c_str()) != 0) {
+        const int fehler = errno;
+        if (DoesExist(pfad) || IstOrdner(pfad)) {
+            k.ui.MeldungZeigen("Die Datei '" + pfad +
+                                   "' konnte nicht gespeichert werden, da die bestehende Datei nicht überschrieben "
+                                   "werden konnte.",
+                               Meldung::Ausrufezeichen);
+            return false;
+        }
+        return Fehlermeldung(k, fehler);
+    }
+    k.LetzteSpeicherung = k.uhr.Jetzt();
+    k.DateiGeändert = false;
+    return true;
+}

@@ -1,0 +1,27 @@
+#include "app/Kartei.h"
+#include "index/IndexDatei.h"
+
+bool RegelmäßigSpeichernPrüfen(Kartei& k) {
+    if (k.E.RegelmäßigSpeichernAlle <= 0) return false;
+    const Datum jetzt = k.uhr.Jetzt();
+    if (DatumDifferenz(Zeiteinheit::Minute, k.LetzteSpeicherung, jetzt) < k.E.RegelmäßigSpeichernAlle) return false;
+    bool gespeichert = false;
+    if (k.DateiGeändert) {
+        const bool mitFortschritt = k.E.StartBildschirm == 1 && k.E.StartBildschirmNichtBeiSpeichern != 1;
+        gespeichert = DateiSpeichern(k, k.Dateiname, mitFortschritt);
+        if (gespeichert) k.ui.TitelNachrichtZeigen("Die Indexdatei wurde automatisch gespeichert", 0);
+    }
+    // Auch ohne Änderung oder nach einem Fehlschlag erst wieder nach der vollen Zeit.
+    if (!gespeichert) k.LetzteSpeicherung = jetzt;
+    return gespeichert;
+}
+
+SchließenAktion SpeichernVorSchließenFragen(Kartei& k) {
+    if (!k.DateiGeändert) return SchließenAktion::OhneSpeichern;
+    if (k.E.DateiAutomatischSpeichern == 1) return SchließenAktion::Speichern;
+    switch (k.ui.MeldungZeigen("Die Indexdatei wurde geändert.\nMöchten Sie diese speichern?", Meldung::JaNeinAbbrechen)) {
+    case Meldung::Ja: return SchließenAktion::Speichern;
+    case Meldung::Nein: return SchließenAktion::OhneSpeichern;
+    default: return SchließenAktion::Abbrechen;
+    }
+}
