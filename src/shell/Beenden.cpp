@@ -1,6 +1,8 @@
 #include "shell/Beenden.h"
 
 #include "app/Kartei.h"
+#include "index/IndexDatei.h"
+#include "index/Spalten.h"
 
 namespace {
 BeendenSchritt Minimieren(const FensterLage& lage) {
@@ -39,4 +41,17 @@ int16_t BeendenKnopfGedrückt(Kartei& k, int16_t auswahl, bool immer) {
     if (auswahl == Beenden::Abbrechen) return auswahl;
     k.E.BeendenReaktion = immer ? auswahl : Beenden::Fragen;
     return auswahl;
+}
+
+bool GeändertenIndexSichern(Kartei& k) {
+    switch (SpeichernVorSchließenFragen(k)) {
+    case SchließenAktion::OhneSpeichern: return true;
+    case SchließenAktion::Speichern: return DateiSpeichern(k, k.Dateiname, true);
+    default: return false;
+    }
+}
+
+bool IndexWechselVorbereiten(Kartei& k) {
+    SpaltenSpeichern(k, k.Liste.lstSongs);
+    return GeändertenIndexSichern(k);
 }

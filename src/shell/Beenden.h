@@ -1,6 +1,7 @@
 #pragma once
 // Schließen des Hauptfensters: ob das Programm endet, sich verkleinert, in den Infobereich geht
-// oder fragt (frmBeenden). Das Sichern des Index vor dem Ende steht in index/IndexDatei.h.
+// oder fragt (frmBeenden); vor dem Ende und vor dem Wechsel des Index wird ein geänderter Index
+// gesichert.
 #include <cstdint>
 
 struct Kartei;
@@ -36,3 +37,10 @@ BeendenSchritt BeendenAuswahlAnwenden(int16_t BeendenAuswahl, const FensterLage&
 // Ein Knopf von frmBeenden: mit "Immer" merkt sich BeendenReaktion die Wahl, ohne wieder 0
 // (fragen). Abbrechen (0) lässt BeendenReaktion, wie es ist. Ergebnis: BeendenAuswahl.
 int16_t BeendenKnopfGedrückt(Kartei& k, int16_t auswahl, bool immer);
+
+// Vor dem Ende oder dem Wechsel des Index: ein geänderter Index wird gespeichert (mit
+// DateiAutomatischSpeichern 1 ohne Frage) oder die Person gefragt. false heißt bleiben: sie hat
+// abgebrochen oder das Speichern ist misslungen, damit nichts verloren geht.
+bool GeändertenIndexSichern(Kartei& k);
+// cmdOk von frmIndexÖffnen: die Spalten der Liste übernehmen, dann GeändertenIndexSichern.
+bool IndexWechselVorbereiten(Kartei& k);

@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace {
@@ -50,13 +51,23 @@ frmMain::frmMain(Kartei& k, GuiOberfläche& ui, std::string standardIndex, QWidg
     rechtsLayout->addWidget(lstSongs_, 1);
     setCentralWidget(mitte);
 
-    tmrListe_.setSingleShot(true);
-    tmrListe_.setInterval(600);
-    tmrTimer1_.setSingleShot(false);
-    tmrTimer2_.setSingleShot(true);
-    tmrScrollUpdate_.setInterval(500);
-    auswahlTimer_.setSingleShot(true);
-    auswahlTimer_.setInterval(0);
+    auto zeitgeber = [this](const char* name) {
+        auto* t = new QTimer(this);
+        t->setObjectName(QString::fromUtf8(name));
+        return t;
+    };
+    tmrListe_ = zeitgeber("tmrListe");
+    tmrTimer1_ = zeitgeber("tmrTimer1");
+    tmrTimer2_ = zeitgeber("tmrTimer2");
+    tmrScrollUpdate_ = zeitgeber("tmrScrollUpdate");
+    auswahlTimer_ = zeitgeber("auswahlTimer");
+    tmrListe_->setSingleShot(true);
+    tmrListe_->setInterval(600);
+    tmrTimer1_->setSingleShot(false);
+    tmrTimer2_->setSingleShot(true);
+    tmrScrollUpdate_->setInterval(500);
+    auswahlTimer_->setSingleShot(true);
+    auswahlTimer_->setInterval(0);
 
     MenüsAufbauen();
     Verbinden();
@@ -176,8 +187,8 @@ void frmMain::AuswahlBeschreibungAnzeigen() {
 }
 
 void frmMain::TitelNachrichtZeigen(const std::string& text, int32_t verzögerungMs) {
-    tmrTimer1_.stop();
-    tmrTimer2_.stop();
+    tmrTimer1_->stop();
+    tmrTimer2_->stop();
     TitelSchrittAnwenden(TitelNachrichtStarten(titel_, text, verzögerungMs));
 }
 
@@ -185,13 +196,13 @@ void frmMain::TitelSchrittAnwenden(const TitelSchritt& s) {
     if (s.normalerTitel) setWindowTitle(Q(NormalerTitel(links_->fraLinks2()->isVisible() ? k_.Dateiname : "")));
     if (s.titel) setWindowTitle(Q(*s.titel));
     if (s.timer1Ms > 0)
-        tmrTimer1_.start(s.timer1Ms);
+        tmrTimer1_->start(s.timer1Ms);
     else
-        tmrTimer1_.stop();
+        tmrTimer1_->stop();
     if (s.timer2Ms > 0)
-        tmrTimer2_.start(s.timer2Ms);
+        tmrTimer2_->start(s.timer2Ms);
     else
-        tmrTimer2_.stop();
+        tmrTimer2_->stop();
 }
 
 void frmMain::Sperren(bool gesperrt) {

@@ -6,7 +6,6 @@
 #include "shell/TitelNachricht.h"
 
 #include <QMainWindow>
-#include <QTimer>
 
 #include <string>
 
@@ -19,6 +18,7 @@ class QComboBox;
 class QLabel;
 class QMenu;
 class QPushButton;
+class QTimer;
 class SongListeAnsicht;
 
 class frmMain final : public QMainWindow {
@@ -108,11 +108,11 @@ private:
     QMenu* mnu_wähle_ = nullptr;
     QMenu* mnu_songkontext_ = nullptr;
 
-    QTimer tmrListe_;    // 600 ms, einmalig, startet nicht neu
-    QTimer tmrTimer1_;   // Titel tippen und halten
-    QTimer tmrTimer2_;   // Wartezeit vor dem Titel
-    QTimer tmrScrollUpdate_;  // 500 ms: regelmäßiges Speichern
-    QTimer auswahlTimer_;     // fasst viele Auswahländerungen zu einer Anzeige zusammen
+    QTimer* tmrListe_;         // 600 ms, einmalig, startet nicht neu
+    QTimer* tmrTimer1_;        // Titel tippen und halten
+    QTimer* tmrTimer2_;        // Wartezeit vor dem Titel
+    QTimer* tmrScrollUpdate_;  // 500 ms: regelmäßiges Speichern
+    QTimer* auswahlTimer_;     // fasst viele Auswahländerungen zu einer Anzeige zusammen
     TitelAnimation titel_;
     bool gesperrt_ = false;
     bool endeErzwungen_ = false;  // Tag "1": das Menü des Infobereichs beendet

@@ -111,17 +111,17 @@ void frmMain::Verbinden() {
         if (!ordner.empty() && lblIndexDateiUntertitel2_->cursor().shape() == Qt::PointingHandCursor)
             k_.shell.Öffnen(ordner);
     });
-    connect(lstSongs_, &SongListeAnsicht::auswahlNeu, this, [this] { auswahlTimer_.start(); });
-    connect(&auswahlTimer_, &QTimer::timeout, this, &frmMain::AuswahlAktualisierenUndZeigen);
+    connect(lstSongs_, &SongListeAnsicht::auswahlNeu, this, [this] { auswahlTimer_->start(); });
+    connect(auswahlTimer_, &QTimer::timeout, this, &frmMain::AuswahlAktualisierenUndZeigen);
     connect(lstSongs_, &SongListeAnsicht::strgA, this, [this] { Auswahlhelfer(mnu_wählealle); });
     connect(lstSongs_, &SongListeAnsicht::entfTaste, this, &frmMain::cmdDateiEntfernen_Click);
     connect(lstSongs_, &SongListeAnsicht::doppelklick, this, &frmMain::lstSongs_DblClick);
     connect(lstSongs_, &SongListeAnsicht::kontextMenü, this, &frmMain::lstSongs_KontextMenü);
     connect(lstSongs_, &SongListeAnsicht::spalteGeklickt, this, &frmMain::lstSongs_ColumnClick);
     connect(lstSongs_, &SongListeAnsicht::dateienFallengelassen, this, &frmMain::DateienFallengelassen);
-    connect(&tmrTimer2_, &QTimer::timeout, this, [this] { TitelSchrittAnwenden(TitelTimer2(titel_)); });
-    connect(&tmrTimer1_, &QTimer::timeout, this,
-            [this] { TitelSchrittAnwenden(TitelTimer1(titel_, tmrTimer1_.interval())); });
+    connect(tmrTimer2_, &QTimer::timeout, this, [this] { TitelSchrittAnwenden(TitelTimer2(titel_)); });
+    connect(tmrTimer1_, &QTimer::timeout, this,
+            [this] { TitelSchrittAnwenden(TitelTimer1(titel_, tmrTimer1_->interval())); });
     VerbindenSuche();
 }
 

@@ -67,8 +67,8 @@ void frmMain::closeEvent(QCloseEvent* ereignis) {
         return;
     }
     EinstellungenSpeichern(k_);
-    tmrListe_.stop();
-    tmrScrollUpdate_.stop();
+    tmrListe_->stop();
+    tmrScrollUpdate_->stop();
     ereignis->accept();
 }
 

@@ -2,7 +2,9 @@
 #include "search/Ergebnisliste.h"
 #include "search/Hauptfenster.h"
 #include "shell/Beenden.h"
+#include "app/Pfade.h"
 #include "support/Attrappen.h"
+#include "support/TestOrdner.h"
 
 #include <gtest/gtest.h>
 
@@ -190,4 +192,35 @@ TEST(Beenden, KnöpfeMerkenDieWahlNurMitImmer) {
     EXPECT_EQ(u.k.E.BeendenReaktion, 2);
     EXPECT_EQ(BeendenKnopfGedrückt(u.k, 0, true), 0);
     EXPECT_EQ(u.k.E.BeendenReaktion, 2);
+}
+
+TEST(Beenden, GeänderterIndexWirdGesichertOderNicht) {
+    TestUmgebung u;
+    TestOrdner ordner;
+    u.k.Dateiname = ordner / "a.kkt";
+    u.k.E.StartBildschirm = 0;
+    // Unverändert: keine Frage, nichts geschrieben.
+    EXPECT_TRUE(GeändertenIndexSichern(u.k));
+    EXPECT_FALSE(DoesExist(u.k.Dateiname));
+    u.k.DateiGeändert = true;
+    u.ui.antworten = {Meldung::Abbrechen, Meldung::Nein, Meldung::Ja};
+    EXPECT_FALSE(GeändertenIndexSichern(u.k));  // Abbrechen: bleiben
+    EXPECT_TRUE(GeändertenIndexSichern(u.k));   // Nein: ohne Speichern weiter
+    EXPECT_FALSE(DoesExist(u.k.Dateiname));
+    EXPECT_TRUE(GeändertenIndexSichern(u.k));   // Ja: gespeichert
+    EXPECT_TRUE(DoesExist(u.k.Dateiname));
+    EXPECT_FALSE(u.k.DateiGeändert);
+    ASSERT_EQ(u.ui.meldungen.size(), 3u);
+    EXPECT_EQ(u.ui.meldungen[0].schalter, 35);
+    // Automatisch speichern: keine Frage.
+    u.k.DateiGeändert = true;
+    u.k.E.DateiAutomatischSpeichern = 1;
+    EXPECT_TRUE(IndexWechselVorbereiten(u.k));
+    EXPECT_EQ(u.ui.meldungen.size(), 3u);
+    EXPECT_FALSE(u.k.DateiGeändert);
+    // Speichern misslingt (Ordner fehlt): bleiben, der Merker bleibt gesetzt.
+    u.k.Dateiname = ordner / "fehlt/b.kkt";
+    u.k.DateiGeändert = true;
+    EXPECT_FALSE(GeändertenIndexSichern(u.k));
+    EXPECT_TRUE(u.k.DateiGeändert);
 }
