@@ -164,12 +164,12 @@ void frmMain::IndexAnzeigen(bool geladen) {
 
 void frmMain::ListeAnzeigen() {
     lstSongs_->Abgleichen();
-    links_->lblDateiAnzahl()->setText(Q(k_.Liste.DateiAnzahlText));
+    links_->lblDateiAnzahl()->setText(Q(DateiAnzahlText()));
 }
 
 void frmMain::AuswahlBeschreibungAnzeigen() {
     const AuswahlBeschreibung b =
-        AuswahlBeschreibungBerechnen(k_, k_.Suche.AusgewählteDateien, k_.Suche.AusgewähltAnzahl);
+        AuswahlBeschreibungBerechnen(k_, AusgewählteDateien(), AusgewähltAnzahl());
     auto farbe = [this](BeschreibungsFarbe f) {
         return FarbeAusWert(f == BeschreibungsFarbe::Funktionen ? k_.E.FarbeFunktionen : k_.E.FarbeBeschreibungen);
     };

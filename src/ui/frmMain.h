@@ -3,6 +3,7 @@
 // Es verdrahtet nur: jede Arbeit tut der Kern. Aufgeteilt auf frmMain.cpp (Aufbau, Anzeige),
 // frmMainBefehle.cpp (Befehle und Menüs), frmMainSuche.cpp (Suchfeld, tmrListe) und
 // frmMainSchliessen.cpp (Schließen, Index wechseln).
+#include "app/EinsBasiert.h"
 #include "shell/TitelNachricht.h"
 
 #include <QMainWindow>
@@ -77,6 +78,11 @@ private:
     void AuswahlAktualisierenUndZeigen();
 
     // Suche (frmMainSuche.cpp)
+    // Die Auswahl, wie AuswahlAktualisieren sie aus der Liste liest.
+    const EinsBasiert<int32_t>& AusgewählteDateien() const;
+    int32_t AusgewähltAnzahl() const;
+    void AuswahlAktualisieren();
+    std::string DateiAnzahlText() const;  // lblDateiAnzahl
     void VerbindenSuche();
     void txtSongname_Change();
     void tmrListe_Timer();
@@ -115,5 +121,7 @@ private:
     QTimer* auswahlTimer_;     // fasst viele Auswahländerungen zu einer Anzeige zusammen
     TitelAnimation titel_;
     bool gesperrt_ = false;
-    bool endeErzwungen_ = false;  // Tag "1": das Menü des Infobereichs beendet
+    bool endeErzwungen_ = false;
+    EinsBasiert<int32_t> übergangAuswahl_;  // ÜBERGANG bis die Suche da ist
+    int32_t übergangAnzahl_ = 0;  // Tag "1": das Menü des Infobereichs beendet
 };

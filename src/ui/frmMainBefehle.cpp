@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QMenu>
+#include <QTimer>
 
 namespace {
 // Die Dateibefehle des Kontextmenüs rufen dieselben Befehle wie die linke Spalte.
@@ -76,7 +77,7 @@ void frmMain::MenüsAufbauen() {
     connect(Eintrag(mnu_songkontext_, "mnu_song_zwischenablage", "Dateinamen in Zwischenablage kopieren"),
             &QAction::triggered, this, [this] {
                 const std::string pfad =
-                    ZwischenablagePfad(k_, k_.Suche.AusgewählteDateien, k_.Suche.AusgewähltAnzahl);
+                    ZwischenablagePfad(k_, AusgewählteDateien(), AusgewähltAnzahl());
                 if (!pfad.empty()) k_.shell.InZwischenablage(pfad);
             });
     mnu_songkontext_->addSeparator()->setObjectName(QStringLiteral("mnu_song_wähletrennzeichen2"));
@@ -103,7 +104,7 @@ void frmMain::Verbinden() {
     connect(links_, &LinkeSpalte::befehl, this, &frmMain::BefehlAusführen);
     connect(lblIndexdatei_, &LinkLabel::geklickt, this, &frmMain::lblIndexdatei_Click);
     connect(lblIndexdateiUntertitel1_, &KlickLabel::geklickt, this, [this] {
-        if (k_.Suche.AusgewähltAnzahl == 1) BefehlAusführen(QStringLiteral("cmdMp3TagAnzeigen"));
+        if (AusgewähltAnzahl() == 1) BefehlAusführen(QStringLiteral("cmdMp3TagAnzeigen"));
     });
     // Der Ordner der Auswahl als Verweis: im Dateimanager öffnen.
     connect(lblIndexDateiUntertitel2_, &KlickLabel::geklickt, this, [this] {
@@ -116,7 +117,7 @@ void frmMain::Verbinden() {
     connect(lstSongs_, &SongListeAnsicht::strgA, this, [this] { Auswahlhelfer(mnu_wählealle); });
     connect(lstSongs_, &SongListeAnsicht::entfTaste, this, &frmMain::cmdDateiEntfernen_Click);
     connect(lstSongs_, &SongListeAnsicht::doppelklick, this, &frmMain::lstSongs_DblClick);
-    connect(lstSongs_, &SongListeAnsicht::kontextMenü, this, &frmMain::lstSongs_KontextMenü);
+    connect(lstSongs_, &SongListeAnsicht::rechtsklick, this, &frmMain::lstSongs_KontextMenü);
     connect(lstSongs_, &SongListeAnsicht::spalteGeklickt, this, &frmMain::lstSongs_ColumnClick);
     connect(lstSongs_, &SongListeAnsicht::dateienFallengelassen, this, &frmMain::DateienFallengelassen);
     connect(tmrTimer2_, &QTimer::timeout, this, [this] { TitelSchrittAnwenden(TitelTimer2(titel_)); });
@@ -149,7 +150,7 @@ void frmMain::cmdAuswählen_Click() {
 }
 
 void frmMain::MenüZustandSetzen(bool NurTitel) {
-    const MenüZustand m = MenüAktualisieren(k_, NurTitel, k_.Suche.AusgewählteDateien, k_.Suche.AusgewähltAnzahl);
+    const MenüZustand m = MenüAktualisieren(k_, NurTitel, AusgewählteDateien(), AusgewähltAnzahl());
     const std::pair<const char*, bool> einträge[] = {
         {"mnu_song_mitdiesemnamen", m.mnu_song_mitdiesemnamen},
         {"mnu_song_allesongsimordner", m.mnu_song_allesongsimordner},
@@ -170,7 +171,7 @@ void frmMain::MenüZustandSetzen(bool NurTitel) {
 
 void frmMain::lstSongs_KontextMenü(const QPoint& global) {
     AuswahlAktualisierenUndZeigen();
-    if (k_.Suche.AusgewähltAnzahl < 1) return;
+    if (AusgewähltAnzahl() < 1) return;
     MenüZustandSetzen(false);
     mnu_kontext_->popup(global);
 }
@@ -183,14 +184,13 @@ void frmMain::Auswahlhelfer(void (*helfer)(Ergebnisliste&)) {
 
 void frmMain::SongSucheAusführen(int art) {
     SongSucheZiel ziel;
-    if (!SongSucheBestimmen(k_, static_cast<SongSuche>(art), k_.Suche.AusgewählteDateien,
-                            k_.Suche.AusgewähltAnzahl, ziel))
+    if (!SongSucheBestimmen(k_, static_cast<SongSuche>(art), AusgewählteDateien(), AusgewähltAnzahl(), ziel))
         return;
     SucheStarten(ziel.feld, ziel.text);
 }
 
 void frmMain::lstSongs_DblClick() {
     AuswahlAktualisierenUndZeigen();
-    if (k_.Suche.AusgewähltAnzahl < 1) return;
+    if (AusgewähltAnzahl() < 1) return;
     NichtVerfügbar();  // Abspielen nach BeiDoppelklick kommt mit dem Spieler
 }

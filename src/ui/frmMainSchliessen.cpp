@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QScreen>
+#include <QTimer>
 
 void frmMain::FensterLageAnwenden(bool zentrieren, bool geometrie, bool maximieren) {
     if (zentrieren)
