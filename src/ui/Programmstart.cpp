@@ -2,15 +2,19 @@
 
 #include "app/Kartei.h"
 #include "app/Start.h"
+#include "shell/Fortschritt.h"
 #include "shell/Tipps.h"
 #include "ui/GuiOberflaeche.h"
 #include "ui/dialoge/frmHinweise.h"
 #include "ui/dialoge/frmWillkommen.h"
 #include "ui/frmMain.h"
 
+#include <QTimer>
+
 void FensterStarten(Kartei& k, frmMain& fenster, GuiOberfläche& ui) {
     fenster.IndexÖffnen();
     const StartDaten start = StartAbschließen(k, TippsAnzahl());
+    fenster.ZeitgeberStarten();
     fenster.FensterLageAnwenden(start.fensterZentrieren, start.geometrieAnwenden, start.maximieren);
     fenster.AuswahlBeschreibungAnzeigen();
     fenster.TitelNachrichtZeigen(start.begrüßung, 500);
@@ -25,4 +29,16 @@ void FensterStarten(Kartei& k, frmMain& fenster, GuiOberfläche& ui) {
         ui.DialogAusführen(hinweise);
     }
     fenster.SuchfeldFokussieren();
+}
+
+void VorführungStarten(Kartei& k, frmMain& fenster) {
+    const QByteArray was = qgetenv("KLANGKARTEI_ZEIGEN");
+    if (was == "fortschritt") {
+        QTimer::singleShot(300, &fenster, [&k] {
+            FortschrittZeigenStarten(k, 1000, true, true, true, "Füge gefundene Dateien hinzu");
+            FortschrittZeigen(k, 420, "/home/anna/Musik/Calexico/Feast of Wire/07 - Not Even Stevie Nicks.mp3");
+        });
+    } else if (was == "sucheerweitert") {
+        QTimer::singleShot(300, &fenster, [&fenster] { fenster.BefehlAusführen(QStringLiteral("cmdSucheMehr")); });
+    }
 }

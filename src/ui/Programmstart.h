@@ -9,3 +9,7 @@ class frmMain;
 class GuiOberfläche;
 
 void FensterStarten(Kartei& k, frmMain& fenster, GuiOberfläche& ui);
+
+// Für Bildschirmfotos: KLANGKARTEI_ZEIGEN=fortschritt oder =sucheerweitert öffnet nach dem Start
+// das Fortschrittsfenster (stehend, halb voll) bzw. die erweiterte Suche.
+void VorführungStarten(Kartei& k, frmMain& fenster);

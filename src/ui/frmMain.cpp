@@ -3,7 +3,9 @@
 #include "app/IndexOeffnen.h"
 #include "app/Kartei.h"
 #include "app/Pfade.h"
+#include "index/IndexDatei.h"
 #include "search/Hauptfenster.h"
+#include "shell/Fortschritt.h"
 #include "ui/GuiOberflaeche.h"
 #include "ui/LinkLabel.h"
 #include "ui/LinkeSpalte.h"
@@ -203,6 +205,16 @@ void frmMain::TitelSchrittAnwenden(const TitelSchritt& s) {
         tmrTimer2_->start(s.timer2Ms);
     else
         tmrTimer2_->stop();
+}
+
+void frmMain::ZeitgeberStarten() { tmrScrollUpdate_->start(); }
+
+// Spieler gibt es noch nicht; der Zeitgeber sorgt fürs regelmäßige Speichern. Nicht während ein
+// Vorgang läuft: dessen Fortschrittsfenster würde sonst vom Speichern geschlossen.
+void frmMain::tmrScrollUpdate_Timer() {
+    tmrScrollUpdate_->stop();
+    if (!gesperrt_ && !FortschrittFensterOffen(k_) && links_->fraLinks2()->isVisible()) RegelmäßigSpeichernPrüfen(k_);
+    tmrScrollUpdate_->start();
 }
 
 void frmMain::Sperren(bool gesperrt) {

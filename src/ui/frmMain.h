@@ -42,6 +42,8 @@ public:
     void SucheVorbereiten();
     // Fokus ins Suchfeld, wenn es eingeschaltet ist.
     void SuchfeldFokussieren();
+    // tmrScrollUpdate einschalten (Programmstart).
+    void ZeitgeberStarten();
     // Das Fenster während eines Fortschritts sperren (nur Schließen bleibt verweigert).
     void Sperren(bool gesperrt);
     // Zentrieren (erster Start), gespeicherte Lage in Twips anwenden, maximieren; dann zeigen.
@@ -63,6 +65,7 @@ private:
     void IndexAnzeigen(bool geladen);
     void TitelSchrittAnwenden(const TitelSchritt& s);
     void NichtVerfügbar();
+    void tmrScrollUpdate_Timer();
 
     // Befehle (frmMainBefehle.cpp)
     void cmdIndexErstellen_Click();

@@ -123,6 +123,7 @@ void frmMain::Verbinden() {
     connect(tmrTimer2_, &QTimer::timeout, this, [this] { TitelSchrittAnwenden(TitelTimer2(titel_)); });
     connect(tmrTimer1_, &QTimer::timeout, this,
             [this] { TitelSchrittAnwenden(TitelTimer1(titel_, tmrTimer1_->interval())); });
+    connect(tmrScrollUpdate_, &QTimer::timeout, this, &frmMain::tmrScrollUpdate_Timer);
     VerbindenSuche();
 }
 

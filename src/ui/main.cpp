@@ -43,5 +43,6 @@ int main(int argc, char** argv) {
     frmMain fenster(k, ui, StandardIndexPfad());
     hauptfenster = &fenster;
     FensterStarten(k, fenster, ui);
+    VorführungStarten(k, fenster);
     return app.exec();
 }
