@@ -137,11 +137,14 @@ void SongListeAnsicht::FarbenSetzen(const QColor& text, const QColor& hintergrun
 void SongListeAnsicht::Abgleichen() {
     auto& liste = k_.Liste.lstSongs;
     abgleichen_ = true;
-    const bool spaltenNeu = modell_->Abgleichen();
-    if (spaltenNeu) SpaltenBreitenÜbernehmen();
+    // Unverändert: nichts neu zeichnen (jede Taste im Suchfeld kommt hier vorbei).
+    if (liste.version != version_) {
+        version_ = liste.version;
+        if (modell_->Abgleichen()) SpaltenBreitenÜbernehmen();
+        AuswahlÜbernehmen();
+    }
     horizontalHeader()->setVisible(liste.kopfleiste);
     setShowGrid(liste.gitter);
-    AuswahlÜbernehmen();
     if (liste.sichtbareZeile >= 0 && liste.sichtbareZeile < modell_->rowCount()) {
         scrollTo(modell_->index(liste.sichtbareZeile, 0));
         liste.sichtbareZeile = -1;  // erledigt
@@ -170,6 +173,7 @@ void SongListeAnsicht::SpalteVerschoben() {
     for (int i = 0; i < kopf->count(); ++i) kopf->moveSection(kopf->visualIndex(i), i);
     s = std::move(neu);
     k_.Liste.lstSongs.Geändert();
+    version_ = k_.Liste.lstSongs.version;
     modell_->Abgleichen();
     SpaltenBreitenÜbernehmen();
     abgleichen_ = false;

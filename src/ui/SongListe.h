@@ -84,4 +84,5 @@ private:
     Kartei& k_;
     ErgebnislisteModell* modell_;
     bool abgleichen_ = false;  // Signale der Ansicht gehen dann nicht in die Liste zurück
+    uint64_t version_ = ~uint64_t{0};  // zuletzt übernommener Stand der Ergebnisliste
 };

@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QStringListModel>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -121,6 +122,8 @@ void frmMain::AufbauSuche(QWidget* rechts) {
     txtSongname_->setEditable(true);
     txtSongname_->setInsertPolicy(QComboBox::NoInsert);
     txtSongname_->setCompleter(nullptr);  // die Ergänzung macht der Kern
+    vorschlagModell_ = new QStringListModel(this);
+    txtSongname_->setModel(vorschlagModell_);
     txtSongname_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     txtSongname_->lineEdit()->setPlaceholderText(QStringLiteral("Suchbegriff eingeben"));
     txtSongname_->setMaxVisibleItems(20);

@@ -9,6 +9,7 @@
 #include <QMainWindow>
 
 #include <string>
+#include <vector>
 
 struct Kartei;
 class GuiOberfläche;
@@ -19,6 +20,7 @@ class QComboBox;
 class QLabel;
 class QMenu;
 class QPushButton;
+class QStringListModel;
 class QTimer;
 class SongListeAnsicht;
 
@@ -56,6 +58,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* ereignis) override;
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override;
 
 private:
     void AufbauOben(QWidget* rechts);
@@ -87,9 +90,11 @@ private:
     void AuswahlAktualisieren();
     std::string DateiAnzahlText() const;  // lblDateiAnzahl
     void VerbindenSuche();
-    void txtSongname_Change();
+    void SuchfelderAnzeigen();
+    void SucheNachlauf();
+    void txtSongname_Change(const QString& text);
     void tmrListe_Timer();
-    void cboSuche_Click();
+    void cboSuche_Click(int index);
     void cmdSucheLöschen_Click();
     void cmdSucheMehr_Click();
     void lstSongs_ColumnClick(int spalte);
@@ -111,6 +116,8 @@ private:
     QComboBox* txtSongname_ = nullptr;
     QPushButton* cmdSucheLöschen_ = nullptr;
     QPushButton* cmdSucheMehr_ = nullptr;
+    QStringListModel* vorschlagModell_ = nullptr;  // Aufklappliste von txtSongname
+    std::vector<std::string> vorschläge_;          // zuletzt gezeigte Vorschläge
     SongListeAnsicht* lstSongs_ = nullptr;
 
     QMenu* mnu_kontext_ = nullptr;

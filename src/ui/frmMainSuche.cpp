@@ -38,9 +38,12 @@ void frmMain::SucheVorbereiten() {
     cboSuche_->setCurrentIndex(0);
     ListeAnzeigen();
 }
-void frmMain::txtSongname_Change() {}
+void frmMain::txtSongname_Change(const QString&) {}
+void frmMain::SuchfelderAnzeigen() {}
+void frmMain::SucheNachlauf() {}
+bool frmMain::eventFilter(QObject* o, QEvent* e) { return QMainWindow::eventFilter(o, e); }
 void frmMain::tmrListe_Timer() {}
-void frmMain::cboSuche_Click() {}
+void frmMain::cboSuche_Click(int) {}
 void frmMain::cmdSucheLöschen_Click() {}
 void frmMain::cmdSucheMehr_Click() {}
 void frmMain::lstSongs_ColumnClick(int) {}
