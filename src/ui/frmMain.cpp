@@ -159,6 +159,7 @@ void frmMain::IndexAnzeigen(bool geladen) {
     for (QWidget* w : std::initializer_list<QWidget*>{txtSongname_, lstSongs_, cboSuche_, cmdSucheLöschen_,
                                                       cmdSucheMehr_, links_->lblWinampSteuerungTitel()})
         w->setEnabled(geladen);
+    indexGeladen_ = geladen;
     links_->fraLinks2()->setVisible(geladen);
     lblIndexdatei_->setText(geladen ? Q(DateinameAusPfad(k_.Dateiname)) : QStringLiteral("(keine Datei geladen)"));
     lblIndexdatei_->setToolTip(Q(k_.Dateiname));
@@ -198,7 +199,7 @@ void frmMain::TitelNachrichtZeigen(const std::string& text, int32_t verzögerung
 }
 
 void frmMain::TitelSchrittAnwenden(const TitelSchritt& s) {
-    if (s.normalerTitel) setWindowTitle(Q(NormalerTitel(links_->fraLinks2()->isVisible() ? k_.Dateiname : "")));
+    if (s.normalerTitel) setWindowTitle(Q(NormalerTitel(indexGeladen_ ? k_.Dateiname : "")));
     if (s.titel) setWindowTitle(Q(*s.titel));
     if (s.timer1Ms > 0)
         tmrTimer1_->start(s.timer1Ms);
@@ -216,7 +217,7 @@ void frmMain::ZeitgeberStarten() { tmrScrollUpdate_->start(); }
 // Vorgang läuft: dessen Fortschrittsfenster würde sonst vom Speichern geschlossen.
 void frmMain::tmrScrollUpdate_Timer() {
     tmrScrollUpdate_->stop();
-    if (!gesperrt_ && !FortschrittFensterOffen(k_) && links_->fraLinks2()->isVisible()) RegelmäßigSpeichernPrüfen(k_);
+    if (!gesperrt_ && !FortschrittFensterOffen(k_) && indexGeladen_) RegelmäßigSpeichernPrüfen(k_);
     tmrScrollUpdate_->start();
 }
 

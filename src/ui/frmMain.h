@@ -131,6 +131,7 @@ private:
     QTimer* auswahlTimer_;     // fasst viele Auswahländerungen zu einer Anzeige zusammen
     TitelAnimation titel_;
     bool gesperrt_ = false;
+    bool indexGeladen_ = false;
     bool endeErzwungen_ = false;
     EinsBasiert<int32_t> übergangAuswahl_;  // ÜBERGANG bis die Suche da ist
     int32_t übergangAnzahl_ = 0;  // Tag "1": das Menü des Infobereichs beendet
