@@ -129,6 +129,8 @@ bool SucheErweitertÜbernehmen(Kartei& k) {
         FeldWählen(s.cboSuche, -1);
         s.txtSongname.Text = MehrereAbfragenText;
     }
+    // Neu gesetzter Text: die Schreibmarke steht am Anfang.
+    s.txtSongname.SelStart = s.txtSongname.SelLength = 0;
     s.SucheGesperrt = false;
     k.ui.EreignisseVerarbeiten();
     txtSongname_Change(k);

@@ -1,0 +1,116 @@
+// Die Befehle search, sort und complete der Kommandozeile: Ausgaben Byte für Byte, Rückgabewerte.
+#include "SuchTestHilfen.h"
+
+#include "index/IndexDatei.h"
+#include "support/TestOrdner.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <sys/wait.h>
+
+namespace {
+struct Aufruf {
+    int rc = -1;
+    std::string aus, fehler;
+};
+
+Aufruf Cli(const TestOrdner& o, const std::string& argumente) {
+    const std::string befehl = "cd '" + o.Pfad() + "' && XDG_CONFIG_HOME='" + o / "konfig" + "' XDG_DATA_HOME='" +
+                               o / "daten" + "' ASAN_OPTIONS=detect_leaks=0 '" KK_CLI "' " + argumente +
+                               " >aus.txt 2>fehler.txt </dev/null";
+    Aufruf a;
+    const int status = std::system(befehl.c_str());
+    a.rc = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    a.aus = DateiLesen(o / "aus.txt");
+    a.fehler = DateiLesen(o / "fehler.txt");
+    return a;
+}
+
+// Vier Einträge: Titel, Interpret, Album; einer mit Tabulator im Pfad.
+void IndexSchreiben(const TestOrdner& o) {
+    TestUmgebung u;
+    const std::vector<std::array<const char*, 4>> daten = {{"/m/1.mp3", "Ein Tag", "Nena", "Farben"},
+                                                           {"/m/2.mp3", "Ein Tag am Meer", "Can", "Meer"},
+                                                           {"/m/a\tb.mp3", "Tag ein", "Abba", ""},
+                                                           {"/m/4.mp3", "Nacht", "nena", "Farben"}};
+    for (const auto& [pfad, titel, interpret, album] : daten) {
+        DateiInfo& d = Neu(u.k, pfad);
+        d.Mp3_ID3v1_Titel = titel;
+        d.Mp3_ID3v1_Interpret = interpret;
+        d.Mp3_ID3v1_Album = album;
+    }
+    ASSERT_TRUE(DateiSpeichern(u.k, o / "i.kkt", false));
+}
+
+std::vector<std::string> PfadeIm(const TestOrdner& o) {
+    TestUmgebung u;
+    EXPECT_TRUE(DateiLaden(u.k, o / "i.kkt"));
+    std::vector<std::string> p;
+    for (int32_t i = 1; i <= u.k.DateiAnzahl; ++i) p.push_back(u.k.DateiPfade[i]);
+    return p;
+}
+}  // namespace
+
+TEST(CliSuche, Search) {
+    TestOrdner o;
+    IndexSchreiben(o);
+    DateiSchreiben(o / "konfig/leer", "");
+    Aufruf a = Cli(o, "--index i.kkt search ''");
+    EXPECT_EQ(a.rc, 0);
+    EXPECT_EQ(a.aus, "1\t1\t/m/1.mp3\n2\t1\t/m/2.mp3\n3\t1\t/m/a\\x09b.mp3\n4\t1\t/m/4.mp3\n");
+    EXPECT_EQ(a.fehler, "4 Datei(en) gefunden\n4 Datei(en) im Index\n");
+
+    a = Cli(o, "--index i.kkt search --field Titel 'ein tag'");
+    EXPECT_EQ(a.aus, "1\t2\t/m/1.mp3\n");
+    EXPECT_EQ(a.fehler, "1 Datei(en) gefunden\n4 Datei(en) im Index\n");
+    a = Cli(o, "--index i.kkt search --not --field Titel 'ein'");
+    EXPECT_EQ(a.aus, "4\t1\t/m/4.mp3\n");
+    a = Cli(o, "--index i.kkt search --field Interpret NENA");
+    EXPECT_EQ(a.aus, "1\t2\t/m/1.mp3\n4\t2\t/m/4.mp3\n");
+    a = Cli(o, "--index i.kkt search --row Titel:00:tag --row Album:11:meer");
+    EXPECT_EQ(a.rc, 0);
+    EXPECT_EQ(a.aus, "1\t1\t/m/1.mp3\n3\t1\t/m/a\\x09b.mp3\n");
+    a = Cli(o, "--index i.kkt search --row 'Dauer:00:1:05'");
+    EXPECT_EQ(a.rc, 0);
+    EXPECT_EQ(a.aus, "");
+    EXPECT_EQ(a.fehler, "0 Datei(en) gefunden\n4 Datei(en) im Index\n");
+
+    for (const char* falsch : {"search", "search --field Quatsch x", "search --row Titel:0:x",
+                               "search --row Titel:00:x tag", "search a b", "search --gibtsnicht x"}) {
+        a = Cli(o, std::string("--index i.kkt ") + falsch);
+        EXPECT_EQ(a.rc, 2) << falsch;
+        EXPECT_EQ(a.aus, "") << falsch;
+    }
+    // Ein Ordner ist kein Index: nicht geladen, Rückgabe 1, keine Zeilen.
+    a = Cli(o, "--index konfig search x");
+    EXPECT_EQ(a.rc, 1);
+    EXPECT_EQ(a.aus, "");
+}
+
+TEST(CliSuche, SortUndComplete) {
+    TestOrdner o;
+    IndexSchreiben(o);
+    Aufruf a = Cli(o, "--index i.kkt sort Interpret");
+    EXPECT_EQ(a.rc, 0);
+    EXPECT_EQ(a.fehler, "Die Liste wurde sortiert nach der Spalte 'Interpret'\n");
+    using S = std::vector<std::string>;
+    EXPECT_EQ(PfadeIm(o), (S{"/m/a\tb.mp3", "/m/2.mp3", "/m/4.mp3", "/m/1.mp3"}));
+    // Zweimal dieselbe Spalte in einem Lauf: absteigend.
+    a = Cli(o, "--index i.kkt sort Titel Titel");
+    EXPECT_EQ(a.rc, 0);
+    EXPECT_EQ(PfadeIm(o), (S{"/m/a\tb.mp3", "/m/4.mp3", "/m/2.mp3", "/m/1.mp3"}));
+    a = Cli(o, "--index i.kkt sort Quatsch");
+    EXPECT_EQ(a.rc, 2);
+
+    a = Cli(o, "--index i.kkt complete Interpret");
+    EXPECT_EQ(a.rc, 0);
+    EXPECT_EQ(a.aus, "Abba\nnena\nCan\n");
+    a = Cli(o, "--index i.kkt complete Album Titel");
+    EXPECT_EQ(a.aus, "Tag ein\nFarben\nNacht\nMeer\nEin Tag am Meer\nEin Tag\n");
+    a = Cli(o, "--index i.kkt complete '(Standardsuche)'");
+    EXPECT_EQ(a.rc, 0);
+    EXPECT_EQ(a.aus, "");
+    a = Cli(o, "--index i.kkt complete Quatsch");
+    EXPECT_EQ(a.rc, 2);
+}
