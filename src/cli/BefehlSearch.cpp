@@ -38,8 +38,12 @@ std::string ArgumenteLesen(const std::vector<std::string>& argumente, Abfrage& a
             nurText = true;
         } else if (!nurText && (arg == "--field" || arg == "--row")) {
             if (i + 1 >= argumente.size()) return arg + " braucht einen Wert.";
-            if (arg == "--row") a.zeilen.push_back(argumente[++i]);
-            else a.feld = argumente[++i], a.feldGesetzt = true;
+            if (arg == "--row") {
+                a.zeilen.push_back(argumente[++i]);
+            } else {
+                a.feld = argumente[++i];
+                a.feldGesetzt = true;
+            }
         } else if (!nurText && arg == "--not") {
             a.nicht = true;
         } else if (!nurText && arg.starts_with("--")) {
@@ -60,8 +64,8 @@ std::string ArgumenteLesen(const std::vector<std::string>& argumente, Abfrage& a
     return {};
 }
 
-// Die Abfrage in den Suchzustand, so wie das Fenster sie hinterlässt.
-bool AbfrageEinrichten(Kartei& k, const Abfrage& a) {
+// Die Abfrage in den Suchzustand, so wie das Fenster sie hinterlässt (Zeilen sind geprüft).
+void AbfrageEinrichten(Kartei& k, const Abfrage& a) {
     auto& s = k.Suche;
     if (a.zeilen.empty()) {
         const auto& felder = s.cboSuche.List;
@@ -70,17 +74,16 @@ bool AbfrageEinrichten(Kartei& k, const Abfrage& a) {
         s.txtSongname.Text = a.text;
         // Die Bedingung der einen Zeile bleibt beim Lauf erhalten.
         if (a.nicht) SuchbegriffeHinzufügen(s, a.text, a.feld, "11");
-        return true;
+        return;
     }
     for (const auto& zeile : a.zeilen) {
         std::string feld, bedingung, text;
-        if (!ZeileLesen(zeile, feld, bedingung, text)) return false;
+        ZeileLesen(zeile, feld, bedingung, text);
         SuchbegriffeHinzufügen(s, text, feld, bedingung);
     }
     s.cboSuche.Enabled = s.txtSongname.Enabled = false;
     s.cboSuche.ListIndex = -1;
     s.txtSongname.Text = MehrereAbfragenText;
-    return true;
 }
 
 int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {

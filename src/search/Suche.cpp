@@ -67,6 +67,11 @@ void txtSongname_Change(Kartei& k) {
     s.SucheGesperrt = false;
 }
 
+void txtSongname_KeyDown(Kartei& k, int32_t KeyCode) {
+    auto& s = k.Suche;
+    if (KeyCode == 8 || (KeyCode == 46 && !s.txtSongname.Text.empty())) s.AutoCompleteUnterdrückt = true;
+}
+
 void cboSuche_Click(Kartei& k) {
     auto& s = k.Suche;
     if (!AutoCompleteFüllen(k, s.txtSongname, s.cboSuche.GewählterEintrag(), k.E.Auswahlliste, ""))

@@ -2,6 +2,8 @@
 // Der Ablauf der Suche über dem Suchzustand (k.Suche): was ein Tastendruck, der Zeitgeber
 // tmrListe, die Feldwahl und das Löschen auslösen. Das Fenster gleicht cboSuche und txtSongname
 // mit k.Suche ab, ruft diese Routinen und startet seinen Zeitgeber, wenn tmrListeAktiv gesetzt ist.
+#include <cstdint>
+
 struct Kartei;
 
 // Einstieg der anderen Teile: nach jeder Änderung der Tabelle die Suche neu laufen lassen und
@@ -12,6 +14,9 @@ bool SucheAktualisieren(Kartei& k, bool AutoCompleteFlag = false);
 // Der Suchtext hat sich vielleicht geändert: ergänzen, dann sofort suchen (leerer Text oder
 // SucheSofort) oder tmrListe spannen. Tut nichts, solange SucheGesperrt gilt.
 void txtSongname_Change(Kartei& k);
+// Taste in txtSongname: Rücktaste (8) und Entf (46, nur bei nicht leerem Text) schalten die
+// Ergänzung für die folgende Änderung ab, damit Löschen nicht gleich wieder aufgefüllt wird.
+void txtSongname_KeyDown(Kartei& k, int32_t KeyCode);
 // Ein ganzer Suchlauf: Abfragezeilen auf Stand bringen, alle Einträge markieren, suchen, Liste
 // aufbauen. Fehler melden sich als Meldungsfenster; der Lauf geht bis zur Liste weiter.
 void tmrListe_Timer(Kartei& k);

@@ -101,3 +101,35 @@ TEST(AutoComplete, ErgänzenBeimTippen) {
     EXPECT_EQ(eingabe.SelStart, 3);
     EXPECT_EQ(eingabe.SelLength, 1);
 }
+
+TEST(AutoComplete, RücktasteImSuchfeld) {
+    TestUmgebung u;
+    Neu(u.k, "/m/1.mp3").Mp3_ID3v1_Interpret = "Nena";
+    auto& s = u.k.Suche;
+    s.cboSuche.ListIndex = 1;  // Interpret
+    s.txtSongname.Text = "nen";
+    cboSuche_Click(u.k);
+    ASSERT_EQ(s.txtSongname.List, (S{"Nena"}));
+    ASSERT_EQ(s.txtSongname.Text, "Nena");
+    // Rücktaste löscht das ergänzte "a": es kommt nicht gleich wieder.
+    txtSongname_KeyDown(u.k, 8);
+    s.txtSongname.Text = "Nen";
+    s.txtSongname.SelStart = 3;
+    txtSongname_Change(u.k);
+    EXPECT_EQ(s.txtSongname.Text, "Nen");
+    // Die nächste Taste ergänzt wieder.
+    s.txtSongname.Text = "Nen";
+    txtSongname_Change(u.k);
+    EXPECT_EQ(s.txtSongname.Text, "Nena");
+    EXPECT_EQ(s.txtSongname.SelLength, 1);
+    // Entf auf leerem Text schaltet nichts ab.
+    s.txtSongname.Text = "";
+    txtSongname_KeyDown(u.k, 46);
+    EXPECT_FALSE(s.AutoCompleteUnterdrückt);
+    // In der Standardsuche gibt es keine Vorschläge und damit keine Ergänzung.
+    s.cboSuche.ListIndex = 0;
+    s.txtSongname.Text = "ne";
+    cboSuche_Click(u.k);
+    EXPECT_TRUE(s.txtSongname.List.empty());
+    EXPECT_EQ(s.txtSongname.Text, "ne");
+}
