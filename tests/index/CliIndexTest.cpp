@@ -1,28 +1,14 @@
 // Die Index-Befehle der Kommandozeile als Ganzes: Ausgaben Byte für Byte, Rückgabewerte.
 #include "IndexTestHilfen.h"
+#include "support/CliAufruf.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <sys/wait.h>
 
 namespace {
-struct Aufruf {
-    int rc = -1;
-    std::string aus, fehler;
-};
-
-// Ruft die Kommandozeile mit eigenem XDG-Bereich im Testordner auf.
-Aufruf Cli(const TestOrdner& o, const std::string& argumente) {
-    const std::string befehl = "cd '" + o.Pfad() + "' && XDG_CONFIG_HOME='" + o / "konfig" + "' XDG_DATA_HOME='" +
-                               o / "daten" + "' ASAN_OPTIONS=detect_leaks=0 '" KK_CLI "' " + argumente +
-                               " >aus.txt 2>fehler.txt </dev/null";
-    Aufruf a;
-    const int status = std::system(befehl.c_str());
-    a.rc = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    a.aus = DateiLesen(o / "aus.txt");
-    a.fehler = DateiLesen(o / "fehler.txt");
-    return a;
+// Die Kommandozeile mit eigenem XDG-Bereich im Testordner.
+CliErgebnis Cli(const TestOrdner& o, const std::vector<std::string>& argumente) {
+    return CliAufrufen(KK_CLI, o, argumente);
 }
 
 const char* const kBeispielBlock =
@@ -45,38 +31,38 @@ TEST(CliIndex, ShowFieldSave) {
     // Zweiter Eintrag: ein LF mitten im Kommentar (nur CR LF trennt Zeilen) und ein Tabulator im Pfad.
     DateiSchreiben(o / "a.kkt", "#TAG:kk102\r\n" + kBeispielGrößen + kBeispielWerte +
                                     "\r\n#TAG:7///3////////////////|/\tb.mp3a\nb\r\n");
-    Aufruf a = Cli(o, "--index a.kkt show --entry 1");
-    EXPECT_EQ(a.rc, 0);
+    CliErgebnis a = Cli(o, {"--index", "a.kkt", "show", "--entry", "1"});
+    EXPECT_EQ(a.rückgabe, 0);
     EXPECT_EQ(a.aus, kBeispielBlock);
     EXPECT_EQ(a.fehler, "");
 
-    a = Cli(o, "--index a.kkt show");
-    EXPECT_EQ(a.rc, 0);
+    a = Cli(o, {"--index", "a.kkt", "show"});
+    EXPECT_EQ(a.rückgabe, 0);
     ASSERT_TRUE(a.aus.starts_with(kBeispielBlock));
     EXPECT_NE(a.aus.find("Nummer=2\nDateiPfade=/\\x09b.mp3\n"), std::string::npos);
     EXPECT_NE(a.aus.find("\nMp3_ID3v1_Kommentar=a\\x0Ab\n"), std::string::npos);
     EXPECT_TRUE(a.aus.ends_with("Mp3_ID3v2_Weitere=\n\n"));
 
-    a = Cli(o, "--index a.kkt show --count");
+    a = Cli(o, {"--index", "a.kkt", "show", "--count"});
     EXPECT_EQ(a.aus, "DateiAnzahl=2\n");
-    a = Cli(o, "--index a.kkt show --entry 3");
-    EXPECT_EQ(a.rc, 1);
+    a = Cli(o, {"--index", "a.kkt", "show", "--entry", "3"});
+    EXPECT_EQ(a.rückgabe, 1);
     EXPECT_EQ(a.fehler, "Den Eintrag 3 gibt es nicht; der Index hat 2 Einträge.\n");
-    EXPECT_EQ(Cli(o, "--index a.kkt show --entry x").rc, 2);
+    EXPECT_EQ(Cli(o, {"--index", "a.kkt", "show", "--entry", "x"}).rückgabe, 2);
 
-    a = Cli(o, "--index a.kkt field 1 Hinzufüge-Datum");
+    a = Cli(o, {"--index", "a.kkt", "field", "1", "Hinzufüge-Datum"});
     EXPECT_EQ(a.aus, "Wert=16.11.2001\nArt=2\n");
-    a = Cli(o, "--index a.kkt field 1 Hinzufüge-Datum --sortform");
+    a = Cli(o, {"--index", "a.kkt", "field", "1", "Hinzufüge-Datum", "--sortform"});
     EXPECT_EQ(a.aus, "Wert=2001|11|16\nArt=2\n");
-    a = Cli(o, "--index a.kkt field 1 '%Interpret%\\%Titel%'");
+    a = Cli(o, {"--index", "a.kkt", "field", "1", "%Interpret%\\%Titel%"});
     EXPECT_EQ(a.aus, "Wert=Band\\x5CLied\nArt=0\n");
-    a = Cli(o, "--index a.kkt field 1 Quatsch");
-    EXPECT_EQ(a.rc, 1);
+    a = Cli(o, {"--index", "a.kkt", "field", "1", "Quatsch"});
+    EXPECT_EQ(a.rückgabe, 1);
     EXPECT_EQ(a.fehler, "Das Feld 'Quatsch' gibt es nicht.\n");
-    EXPECT_EQ(Cli(o, "--index a.kkt field 1").rc, 2);
+    EXPECT_EQ(Cli(o, {"--index", "a.kkt", "field", "1"}).rückgabe, 2);
 
-    a = Cli(o, "--index a.kkt save --to b.kkt");
-    EXPECT_EQ(a.rc, 0);
+    a = Cli(o, {"--index", "a.kkt", "save", "--to", "b.kkt"});
+    EXPECT_EQ(a.rückgabe, 0);
     EXPECT_EQ(DateiLesen(o / "b.kkt"), StandardKopf() + kBeispielGrößen + kBeispielWerte +
                                            "\r\n#TAG:7///3/////2//1/1/1/1/1//1//1/|/\tb.mp3a b-10000000\r\n");
     EXPECT_FALSE(DoesExist(o / "b.kkt~"));
@@ -85,25 +71,25 @@ TEST(CliIndex, ShowFieldSave) {
 TEST(CliIndex, MeldungenUndStandardIndex) {
     TestOrdner o;
     // Ohne --index: der Standard-Index im Datenordner, beim ersten Mal angelegt.
-    Aufruf a = Cli(o, "show --count");
-    EXPECT_EQ(a.rc, 0);
+    CliErgebnis a = Cli(o, {"show", "--count"});
+    EXPECT_EQ(a.rückgabe, 0);
     EXPECT_EQ(a.aus, "DateiAnzahl=0\n");
     EXPECT_EQ(DateiLesen(o / "daten/klangkartei/Klangkt.kkt"), "#TAG:kk100\r\n");
 
     // Ungültiges Format: Frage auf stderr, ohne --yes mit Nein beantwortet.
     DateiSchreiben(o / "liste.txt", "kopf\r\n/a.mp3\r\n/b.mp3\r\n");
-    a = Cli(o, "--index liste.txt show --count");
-    EXPECT_EQ(a.rc, 1);
+    a = Cli(o, {"--index", "liste.txt", "show", "--count"});
+    EXPECT_EQ(a.rückgabe, 1);
     EXPECT_EQ(a.aus, "");
     EXPECT_TRUE(a.fehler.starts_with("Die Indexdatei 'liste.txt' liegt in einem älteren Dateiformat vor"));
     EXPECT_TRUE(a.fehler.ends_with("→ Nein\nDie Indexdatei 'liste.txt' wurde nicht geladen.\n"));
-    a = Cli(o, "--yes --index liste.txt show --count");
-    EXPECT_EQ(a.rc, 0);
+    a = Cli(o, {"--yes", "--index", "liste.txt", "show", "--count"});
+    EXPECT_EQ(a.rückgabe, 0);
     EXPECT_EQ(a.aus, "DateiAnzahl=2\n");
 
     // Neueres Format: Hinweis auf stderr, geladen wird trotzdem.
     DateiSchreiben(o / "neu.kkt", "#TAG:kk200\r\n");
-    a = Cli(o, "--index neu.kkt show --count");
-    EXPECT_EQ(a.rc, 0);
+    a = Cli(o, {"--index", "neu.kkt", "show", "--count"});
+    EXPECT_EQ(a.rückgabe, 0);
     EXPECT_NE(a.fehler.find("liegt in einem neueren Datei-Format ('200') vor."), std::string::npos);
 }

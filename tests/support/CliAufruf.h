@@ -1,0 +1,14 @@
+#pragma once
+// Ruft klangkartei-cli als eigenen Prozess auf, mit eigenen XDG-Ordnern im Testordner.
+#include "support/TestOrdner.h"
+
+#include <string>
+#include <vector>
+
+struct CliErgebnis {
+    int rückgabe = -1;
+    std::string aus, fehler;
+};
+
+// cli: Pfad des Programms (KK_CLI der Test-Programme). Arbeitsordner ist der Testordner.
+CliErgebnis CliAufrufen(const char* cli, const TestOrdner& o, const std::vector<std::string>& argumente);
