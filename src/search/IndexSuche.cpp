@@ -100,7 +100,7 @@ int32_t Suchlauf::Prüfen(const Zeile& z, const Wort& w, bool erstesWort, int32_
     std::string_view text;
     bool gefaltet = false;
     int16_t art = IndexFeldArt::Text;
-    if (z.standardsuche && cache_) {
+    if (z.standardsuche && cache_ && size_t(eintrag) <= k_.Suche.standardsuche.einträge.size()) {
         text = SuchCacheText(k_.Suche.standardsuche, eintrag);
         gefaltet = true;
     } else {

@@ -2,29 +2,17 @@
 #include "SuchTestHilfen.h"
 
 #include "index/IndexDatei.h"
-#include "support/TestOrdner.h"
+#include "support/CliAufruf.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <sys/wait.h>
-
 namespace {
-struct Aufruf {
-    int rc = -1;
-    std::string aus, fehler;
-};
+using A = std::vector<std::string>;
 
-Aufruf Cli(const TestOrdner& o, const std::string& argumente) {
-    const std::string befehl = "cd '" + o.Pfad() + "' && XDG_CONFIG_HOME='" + o / "konfig" + "' XDG_DATA_HOME='" +
-                               o / "daten" + "' ASAN_OPTIONS=detect_leaks=0 '" KK_CLI "' " + argumente +
-                               " >aus.txt 2>fehler.txt </dev/null";
-    Aufruf a;
-    const int status = std::system(befehl.c_str());
-    a.rc = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    a.aus = DateiLesen(o / "aus.txt");
-    a.fehler = DateiLesen(o / "fehler.txt");
-    return a;
+// Immer mit dem Index i.kkt im Testordner.
+CliErgebnis Cli(const TestOrdner& o, A argumente) {
+    argumente.insert(argumente.begin(), {"--index", "i.kkt"});
+    return CliAufrufen(KK_CLI, o, argumente);
 }
 
 // Vier Einträge: Titel, Interpret, Album; einer mit Tabulator im Pfad.
@@ -56,61 +44,62 @@ TEST(CliSuche, Search) {
     TestOrdner o;
     IndexSchreiben(o);
     DateiSchreiben(o / "konfig/leer", "");
-    Aufruf a = Cli(o, "--index i.kkt search ''");
-    EXPECT_EQ(a.rc, 0);
+    CliErgebnis a = Cli(o, {"search", ""});
+    EXPECT_EQ(a.rückgabe, 0);
     EXPECT_EQ(a.aus, "1\t1\t/m/1.mp3\n2\t1\t/m/2.mp3\n3\t1\t/m/a\\x09b.mp3\n4\t1\t/m/4.mp3\n");
     EXPECT_EQ(a.fehler, "4 Datei(en) gefunden\n4 Datei(en) im Index\n");
 
-    a = Cli(o, "--index i.kkt search --field Titel 'ein tag'");
+    a = Cli(o, {"search", "--field", "Titel", "ein tag"});
     EXPECT_EQ(a.aus, "1\t2\t/m/1.mp3\n");
     EXPECT_EQ(a.fehler, "1 Datei(en) gefunden\n4 Datei(en) im Index\n");
-    a = Cli(o, "--index i.kkt search --not --field Titel 'ein'");
+    a = Cli(o, {"search", "--not", "--field", "Titel", "ein"});
     EXPECT_EQ(a.aus, "4\t1\t/m/4.mp3\n");
-    a = Cli(o, "--index i.kkt search --field Interpret NENA");
+    a = Cli(o, {"search", "--field", "Interpret", "NENA"});
     EXPECT_EQ(a.aus, "1\t2\t/m/1.mp3\n4\t2\t/m/4.mp3\n");
-    a = Cli(o, "--index i.kkt search --row Titel:00:tag --row Album:11:meer");
-    EXPECT_EQ(a.rc, 0);
+    a = Cli(o, {"search", "--row", "Titel:00:tag", "--row", "Album:11:meer"});
+    EXPECT_EQ(a.rückgabe, 0);
     EXPECT_EQ(a.aus, "1\t1\t/m/1.mp3\n3\t1\t/m/a\\x09b.mp3\n");
-    a = Cli(o, "--index i.kkt search --row 'Dauer:00:1:05'");
-    EXPECT_EQ(a.rc, 0);
+    a = Cli(o, {"search", "--row", "Dauer:00:1:05"});
+    EXPECT_EQ(a.rückgabe, 0);
     EXPECT_EQ(a.aus, "");
     EXPECT_EQ(a.fehler, "0 Datei(en) gefunden\n4 Datei(en) im Index\n");
 
-    for (const char* falsch : {"search", "search --field Quatsch x", "search --row Titel:0:x",
-                               "search --row Titel:00:x tag", "search a b", "search --gibtsnicht x"}) {
-        a = Cli(o, std::string("--index i.kkt ") + falsch);
-        EXPECT_EQ(a.rc, 2) << falsch;
-        EXPECT_EQ(a.aus, "") << falsch;
+    for (const A& falsch : {A{"search"}, A{"search", "--field", "Quatsch", "x"}, A{"search", "--row", "Titel:0:x"},
+                            A{"search", "--row", "Titel:00:x", "tag"}, A{"search", "a", "b"},
+                            A{"search", "--gibtsnicht", "x"}}) {
+        a = Cli(o, falsch);
+        EXPECT_EQ(a.rückgabe, 2) << falsch[1];
+        EXPECT_EQ(a.aus, "");
     }
     // Ein Ordner ist kein Index: nicht geladen, Rückgabe 1, keine Zeilen.
-    a = Cli(o, "--index konfig search x");
-    EXPECT_EQ(a.rc, 1);
+    a = CliAufrufen(KK_CLI, o, {"--index", "konfig", "search", "x"});
+    EXPECT_EQ(a.rückgabe, 1);
     EXPECT_EQ(a.aus, "");
 }
 
 TEST(CliSuche, SortUndComplete) {
     TestOrdner o;
     IndexSchreiben(o);
-    Aufruf a = Cli(o, "--index i.kkt sort Interpret");
-    EXPECT_EQ(a.rc, 0);
+    CliErgebnis a = Cli(o, {"sort", "Interpret"});
+    EXPECT_EQ(a.rückgabe, 0);
     EXPECT_EQ(a.fehler, "Die Liste wurde sortiert nach der Spalte 'Interpret'\n");
     using S = std::vector<std::string>;
     EXPECT_EQ(PfadeIm(o), (S{"/m/a\tb.mp3", "/m/2.mp3", "/m/4.mp3", "/m/1.mp3"}));
     // Zweimal dieselbe Spalte in einem Lauf: absteigend.
-    a = Cli(o, "--index i.kkt sort Titel Titel");
-    EXPECT_EQ(a.rc, 0);
+    a = Cli(o, {"sort", "Titel", "Titel"});
+    EXPECT_EQ(a.rückgabe, 0);
     EXPECT_EQ(PfadeIm(o), (S{"/m/a\tb.mp3", "/m/4.mp3", "/m/2.mp3", "/m/1.mp3"}));
-    a = Cli(o, "--index i.kkt sort Quatsch");
-    EXPECT_EQ(a.rc, 2);
+    a = Cli(o, {"sort", "Quatsch"});
+    EXPECT_EQ(a.rückgabe, 2);
 
-    a = Cli(o, "--index i.kkt complete Interpret");
-    EXPECT_EQ(a.rc, 0);
+    a = Cli(o, {"complete", "Interpret"});
+    EXPECT_EQ(a.rückgabe, 0);
     EXPECT_EQ(a.aus, "Abba\nnena\nCan\n");
-    a = Cli(o, "--index i.kkt complete Album Titel");
+    a = Cli(o, {"complete", "Album", "Titel"});
     EXPECT_EQ(a.aus, "Tag ein\nFarben\nNacht\nMeer\nEin Tag am Meer\nEin Tag\n");
-    a = Cli(o, "--index i.kkt complete '(Standardsuche)'");
-    EXPECT_EQ(a.rc, 0);
+    a = Cli(o, {"complete", "(Standardsuche)"});
+    EXPECT_EQ(a.rückgabe, 0);
     EXPECT_EQ(a.aus, "");
-    a = Cli(o, "--index i.kkt complete Quatsch");
-    EXPECT_EQ(a.rc, 2);
+    a = Cli(o, {"complete", "Quatsch"});
+    EXPECT_EQ(a.rückgabe, 2);
 }
