@@ -20,7 +20,7 @@ ListenSpalte SpaltenKopf(const Kartei& k, int32_t nummer) {
     s.kopf = SpaltenName(nummer);
     if (nummer == SpalteBenutzerdefiniert) {
         s.kopf = Ersetzen(k.Optionen.SpaltenNutzerformat, "%", "");
-        s.tag = "b";
+        s.tag.assign(1, 'b');  // so sieht GCC 12 keine Überlappung, wo keine ist
     }
     return s;
 }

@@ -84,7 +84,7 @@ uint64_t TextPrüfsumme(std::string_view text) {
         h = Mischen(h, w);
     }
     uint64_t rest = 0;
-    std::memcpy(&rest, text.data() + i, text.size() - i);
+    if (i < text.size()) std::memcpy(&rest, text.data() + i, text.size() - i);
     return Mischen(Mischen(h, rest), 0x94D049BB133111EBULL);
 }
 
