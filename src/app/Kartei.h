@@ -44,6 +44,9 @@ struct Kartei {
     EinsBasiert<int16_t> DateiTreffer;
     int32_t DateiAnzahl = 0;
     bool DateiGeändert = false;
+    // Zählt Änderungen der Tabelle (IndexGrößeÄndern, DateiGeändertSetzen, SucheAktualisieren);
+    // daran erkennt die Suche, ob ihr Zwischenspeicher noch stimmt.
+    uint64_t TabellenStand = 0;
 
     std::string Dateiname;          // Pfad des offenen Index
     Datum LetzteSpeicherung;        // Programmstart bzw. letzte Speicherung

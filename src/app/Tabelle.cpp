@@ -9,6 +9,7 @@
 #include <vector>
 
 void IndexGrößeÄndern(Kartei& k, int32_t neueGröße, bool erhalten) {
+    ++k.TabellenStand;
     if (erhalten) {
         k.DateiPfade.ReDimPreserve(neueGröße);
         k.DateiTreffer.ReDimPreserve(neueGröße);
@@ -20,7 +21,10 @@ void IndexGrößeÄndern(Kartei& k, int32_t neueGröße, bool erhalten) {
     }
 }
 
-void DateiGeändertSetzen(Kartei& k) { k.DateiGeändert = true; }
+void DateiGeändertSetzen(Kartei& k) {
+    k.DateiGeändert = true;
+    ++k.TabellenStand;
+}
 
 void TabelleFürNummerVergrößern(Kartei& k, int32_t nummer, TabellenWachstum& wachstum) {
     if (nummer <= k.DateiPfade.UBound()) return;

@@ -11,7 +11,8 @@ struct Kartei;
 // Alle drei Felder auf 1..neueGröße; erhalten = false beginnt mit leeren Feldern.
 void IndexGrößeÄndern(Kartei& k, int32_t neueGröße, bool erhalten);
 
-// DateiGeändert setzen (die Tabelle oder die Index-Optionen weichen von der Datei ab).
+// DateiGeändert setzen (die Tabelle oder die Index-Optionen weichen von der Datei ab). Erhöht
+// auch TabellenStand: wer einen Eintrag ändert, ruft dies (oder danach SucheAktualisieren).
 void DateiGeändertSetzen(Kartei& k);
 
 // Wachstum beim Füllen: 1000 Plätze zu Beginn, dann 2100, 4100, 6100, … Der Zähler gehört

@@ -161,7 +161,34 @@ std::string Groß(std::string_view text) {
     });
 }
 
-std::string Klein(std::string_view text) { return Abbilden(text, KleinCp); }
+std::string Klein(std::string_view text) {
+    std::string aus;
+    KleinAnhängen(aus, text);
+    return aus;
+}
+
+void KleinAnhängen(std::string& ziel, std::string_view text) {
+    ziel.reserve(ziel.size() + text.size());
+    size_t pos = 0;
+    while (pos < text.size()) {
+        // ASCII-Strecken am Stück: der Normalfall in Tags und Pfaden.
+        size_t ende = pos;
+        while (ende < text.size() && static_cast<unsigned char>(text[ende]) < 0x80) ++ende;
+        if (ende > pos) {
+            const size_t alt = ziel.size();
+            ziel.resize(alt + (ende - pos));
+            char* aus = ziel.data() + alt;
+            for (size_t i = pos; i < ende; ++i, ++aus)
+                *aus = (text[i] >= 'A' && text[i] <= 'Z') ? char(text[i] + 32) : text[i];
+            pos = ende;
+            continue;
+        }
+        const size_t anfang = pos;
+        const auto cp = CodepunktLesen(text, pos);
+        if (cp < 0) ziel.append(text.substr(anfang, pos - anfang));
+        else Utf8Anhängen(ziel, static_cast<char32_t>(KleinCp(cp)));
+    }
+}
 
 int32_t ZeichenAnzahl(std::string_view text) {
     int32_t n = 0;
@@ -175,6 +202,8 @@ bool TexteGleich(std::string_view a, std::string_view b) {
         if (KleinCp(CodepunktLesen(a, i)) != KleinCp(CodepunktLesen(b, j))) return false;
     return i == a.size() && j == b.size();
 }
+
+bool BeginntMitText(std::string_view text, std::string_view anfang) { return StehtAn(text, 0, anfang); }
 
 int32_t InStr(int32_t start, std::string_view text, std::string_view suche) {
     if (start < 1 || static_cast<size_t>(start) > text.size() + 1) return 0;

@@ -23,6 +23,8 @@ std::string DateiTextLesen(std::string_view bytes);
 // --- Groß/Klein: einfache Unicode-Abbildung je Codepunkt ("ß" bleibt "ß") ---
 std::string Groß(std::string_view text);
 std::string Klein(std::string_view text);
+// Klein(text) hinten an ziel anhängen; ziel behält seine Kapazität (Suchen über viele Einträge).
+void KleinAnhängen(std::string& ziel, std::string_view text);
 // Zahl der Zeichen (Codepunkte); ungültige Bytes zählen je eins.
 int32_t ZeichenAnzahl(std::string_view text);
 
@@ -31,6 +33,8 @@ int32_t ZeichenAnzahl(std::string_view text);
 bool TexteGleich(std::string_view a, std::string_view b);
 // Pfade und Namen: dieselbe Regel (gleiche Länge, Groß/Klein egal).
 inline bool NamenGleich(std::string_view a, std::string_view b) { return TexteGleich(a, b); }
+// Beginnt text mit anfang, Groß/Klein egal? Ein leerer Anfang passt immer.
+bool BeginntMitText(std::string_view text, std::string_view anfang);
 // InStr: erste Fundstelle von suche in text ab Byte-Position start (1-basiert), 0 = keine.
 // Leere Suche findet start (wenn start <= Länge + 1).
 int32_t InStr(int32_t start, std::string_view text, std::string_view suche);

@@ -9,6 +9,7 @@ extern const Befehl BefehlSettings;
 extern const Befehl BefehlInfo, BefehlTag, BefehlUntag;
 // Aufnahme
 // Suche
+extern const Befehl BefehlSearch, BefehlSort, BefehlComplete;
 
 const std::vector<Befehl>& AlleBefehle() {
     static const std::vector<Befehl> befehle = {
@@ -20,6 +21,7 @@ const std::vector<Befehl>& AlleBefehle() {
         BefehlInfo, BefehlTag, BefehlUntag,
         // Aufnahme
         // Suche
+        BefehlSearch, BefehlSort, BefehlComplete,
     };
     return befehle;
 }

@@ -2,6 +2,7 @@
 
 #include "app/Kartei.h"
 #include "app/Pfade.h"
+#include "app/Tabelle.h"
 #include "app/Texte.h"
 #include "app/Zahlen.h"
 #include "media/DateiLeser.h"
@@ -197,7 +198,7 @@ bool TAGEntfernen(Kartei& k, DateiInfo& rückgabe, const std::string& dateiname,
     rückgabe = MedienInfosLesen(k, dateiname, rückgabe, "10", false, "1", "0");
     if (k.DateiDaten.GültigerIndex(eintrag)) {
         k.DateiDaten[eintrag] = rückgabe;
-        k.DateiGeändert = true;
+        DateiGeändertSetzen(k);
     }
     return true;
 }

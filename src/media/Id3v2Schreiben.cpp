@@ -3,6 +3,7 @@
 #include "app/BitString.h"
 #include "app/Kartei.h"
 #include "app/Pfade.h"
+#include "app/Tabelle.h"
 #include "app/Texte.h"
 #include "app/Zahlen.h"
 #include "media/Id3v2Lesen.h"
@@ -244,7 +245,7 @@ bool TAGEntfernenV2(Kartei& k, const std::string& dateiname, int32_t eintrag, bo
     if (arbeitsdaten) *arbeitsdaten = aufgefrischt;
     if (k.DateiDaten.GültigerIndex(eintrag)) {
         k.DateiDaten[eintrag] = aufgefrischt;
-        k.DateiGeändert = true;
+        DateiGeändertSetzen(k);
     }
     return true;
 }

@@ -110,11 +110,7 @@ void frmMain::AufbauOben(QWidget* rechts) {
 void frmMain::AufbauSuche(QWidget* rechts) {
     cboSuche_ = new QComboBox(rechts);
     cboSuche_->setObjectName(QStringLiteral("cboSuche"));
-    for (const char* feld : {"(Standardsuche)", "Interpret", "Album", "Titel", "Track", "Jahr", "Kommentar", "Genre",
-                             "Interpret-ID3v2", "Titel-ID3v2", "Album-ID3v2", "Jahr-ID3v2", "Track-ID3v2",
-                             "Genre-ID3v2", "Kommentar-ID3v2", "Pfad", "Wechselmedium", "Bitrate",
-                             "Hinzufüge-Datum", "Datei-Endung", "Abspiel-Datum", "Abspiel-Häufigkeit"})
-        cboSuche_->addItem(QString::fromUtf8(feld));
+    for (const auto& feld : k_.Suche.cboSuche.List) cboSuche_->addItem(Q(feld));
     cboSuche_->setCurrentIndex(-1);
     cboSuche_->setMaxVisibleItems(22);
     txtSongname_ = new QComboBox(rechts);

@@ -1,7 +1,6 @@
-// Die Logik hinter "Zum Index hinzufügen" (Filter, Wahl) und "Aus Index entfernen".
+// "Aus Index entfernen": die Entfernliste und der Befehl über der Auswahl.
 #include "app/Pfade.h"
 #include "fileops/AusIndexEntfernen.h"
-#include "intake/HinzufuegenDialog.h"
 #include "search/Ergebnisliste.h"
 #include "search/Suche.h"
 #include "support/Attrappen.h"
@@ -10,16 +9,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-void Typen(Kartei& k, std::initializer_list<const char*> einträge) {
-    k.Optionen.DateitypEintrag.ReDim(0);
-    k.Optionen.DateitypKlasse.ReDim(0);
-    for (const char* e : einträge) {
-        k.Optionen.DateitypEintrag.Anhängen(e);
-        k.Optionen.DateitypKlasse.Anhängen("110");
-    }
-    k.Optionen.DateitypenLeer = false;
-}
-
 void Einträge(Kartei& k, int32_t n) {
     k.DateiPfade.ReDim(n);
     k.DateiDaten.ReDim(n);
@@ -28,44 +17,6 @@ void Einträge(Kartei& k, int32_t n) {
     k.DateiAnzahl = n;
 }
 }  // namespace
-
-TEST(HinzufügenDialog, FilterAusDerTypentabelle) {
-    TestUmgebung u;
-    std::string filter;
-    EXPECT_FALSE(DateienHinzufügenFilter(u.k, filter));  // keine Typen eingerichtet
-    ASSERT_EQ(u.ui.meldungen.size(), 1u);
-    EXPECT_EQ(u.ui.meldungen[0].text, "Sie können keine Dateien hinzufügen, da kein Dateityp eingerichtet wurde.\n\n"
-                                      "Installieren Sie dieses Programm neu, um die Dateitypen wiederherzustellen.");
-    EXPECT_EQ(u.ui.meldungen[0].schalter, 64);
-
-    Typen(u.k, {"gif=0", "*=1", "jpg=0"});
-    EXPECT_FALSE(DateienHinzufügenFilter(u.k, filter));  // "*" zählt nicht, nichts freigegeben
-    EXPECT_EQ(u.ui.meldungen.back().text, "Sie können keine Dateien hinzufügen, da kein Dateityp für die "
-                                          "Verwaltung freigegeben wurde.\n\nÄndern Sie diese Einstellung in den "
-                                          "'Optionen'.");
-
-    Typen(u.k, {"mp3=1", "mp2=1", "gif=0", "kaputt", "wav=1", "*=0"});
-    ASSERT_TRUE(DateienHinzufügenFilter(u.k, filter));
-    EXPECT_EQ(filter, "Unterstützte Dateiformate (*.mp3,*.mp2,*.wav)|*.mp3;*.mp2;*.wav|Alle Dateien (*.*)|*.*");
-}
-
-TEST(HinzufügenDialog, WahlAbgebrochenOderLeer) {
-    TestUmgebung u;
-    Typen(u.k, {"mp3=1"});
-    EinsBasiert<std::string> dateien;
-    u.ui.dateiListen = {{}};  // abgebrochen
-    EXPECT_FALSE(DateienFürIndexWählen(u.k, dateien));
-    u.ui.dateiListen = {{"/a.mp3", "/b.mp3"}};
-    ASSERT_TRUE(DateienFürIndexWählen(u.k, dateien));
-    EXPECT_EQ(dateien.UBound(), 2);
-    EXPECT_EQ(dateien[2], "/b.mp3");
-    std::string ordner;
-    u.ui.ordner = {""};
-    EXPECT_FALSE(OrdnerFürIndexWählen(u.k, ordner));
-    u.ui.ordner = {"/musik"};
-    ASSERT_TRUE(OrdnerFürIndexWählen(u.k, ordner));
-    EXPECT_EQ(ordner, "/musik");
-}
 
 TEST(AusIndexEntfernen, FragtEntferntUndSuchtNeu) {
     TestUmgebung u;
