@@ -2,6 +2,7 @@
 
 #include "app/Kartei.h"
 #include "app/Start.h"
+#include "search/Suchbegriffe.h"
 #include "shell/Fortschritt.h"
 #include "shell/Tipps.h"
 #include "ui/GuiOberflaeche.h"
@@ -38,7 +39,14 @@ void VorführungStarten(Kartei& k, frmMain& fenster) {
             FortschrittZeigenStarten(k, 1000, true, true, true, "Füge gefundene Dateien hinzu");
             FortschrittZeigen(k, 420, "/home/anna/Musik/Calexico/Feast of Wire/07 - Not Even Stevie Nicks.mp3");
         });
+    } else if (was == "liste") {
+        QTimer::singleShot(300, &fenster, [&fenster] { fenster.BefehlAusführen(QStringLiteral("cmdSucheLöschen")); });
     } else if (was == "sucheerweitert") {
-        QTimer::singleShot(300, &fenster, [&fenster] { fenster.BefehlAusführen(QStringLiteral("cmdSucheMehr")); });
+        QTimer::singleShot(300, &fenster, [&k, &fenster] {
+            SuchbegriffeZurücksetzen(k.Suche);
+            SuchbegriffeHinzufügen(k.Suche, "Calexico", "Interpret", "00");
+            SuchbegriffeHinzufügen(k.Suche, "live", "Titel", "11");
+            fenster.BefehlAusführen(QStringLiteral("cmdSucheMehr"));
+        });
     }
 }

@@ -10,6 +10,7 @@ class GuiOberfläche;
 
 void FensterStarten(Kartei& k, frmMain& fenster, GuiOberfläche& ui);
 
-// Für Bildschirmfotos: KLANGKARTEI_ZEIGEN=fortschritt oder =sucheerweitert öffnet nach dem Start
-// das Fortschrittsfenster (stehend, halb voll) bzw. die erweiterte Suche.
+// Für Bildschirmfotos: KLANGKARTEI_ZEIGEN=liste zeigt nach dem Start alle Einträge,
+// =fortschritt öffnet das Fortschrittsfenster (stehend), =sucheerweitert die erweiterte Suche mit
+// zwei Abfragezeilen.
 void VorführungStarten(Kartei& k, frmMain& fenster);

@@ -136,6 +136,10 @@ void frmMain::BefehlAusführen(const QString& name) {
         cmdDateiEntfernen_Click();
     else if (name == QStringLiteral("cmdBeenden"))
         close();
+    else if (name == QStringLiteral("cmdSucheLöschen"))
+        cmdSucheLöschen_Click();
+    else if (name == QStringLiteral("cmdSucheMehr"))
+        cmdSucheMehr_Click();
     else
         NichtVerfügbar();
 }
