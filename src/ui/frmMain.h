@@ -118,6 +118,7 @@ private:
     QPushButton* cmdSucheMehr_ = nullptr;
     QStringListModel* vorschlagModell_ = nullptr;  // Aufklappliste von txtSongname
     std::vector<std::string> vorschläge_;          // zuletzt gezeigte Vorschläge
+    bool ausAufklappliste_ = false;                // die Person hat in der Aufklappliste gewählt
     SongListeAnsicht* lstSongs_ = nullptr;
 
     QMenu* mnu_kontext_ = nullptr;

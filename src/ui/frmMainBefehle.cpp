@@ -76,6 +76,7 @@ void frmMain::MenüsAufbauen() {
     }
     connect(Eintrag(mnu_songkontext_, "mnu_song_zwischenablage", "Dateinamen in Zwischenablage kopieren"),
             &QAction::triggered, this, [this] {
+                AuswahlAktualisieren();
                 const std::string pfad =
                     ZwischenablagePfad(k_, AusgewählteDateien(), AusgewähltAnzahl());
                 if (!pfad.empty()) k_.shell.InZwischenablage(pfad);
@@ -188,6 +189,7 @@ void frmMain::Auswahlhelfer(void (*helfer)(Ergebnisliste&)) {
 }
 
 void frmMain::SongSucheAusführen(int art) {
+    AuswahlAktualisieren();
     SongSucheZiel ziel;
     if (!SongSucheBestimmen(k_, static_cast<SongSuche>(art), AusgewählteDateien(), AusgewähltAnzahl(), ziel))
         return;

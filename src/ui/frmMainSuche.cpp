@@ -33,9 +33,15 @@ void frmMain::VerbindenSuche() {
     QLineEdit* eingabe = txtSongname_->lineEdit();
     eingabe->installEventFilter(this);
     connect(eingabe, &QLineEdit::textEdited, this, &frmMain::txtSongname_Change);
-    // Ein Wert aus der Aufklappliste ändert den Text wie getippt.
-    connect(txtSongname_, &QComboBox::activated, this,
-            [this](int i) { txtSongname_Change(txtSongname_->itemText(i)); });
+    // Ein Wert aus der Aufklappliste ändert den Text wie getippt. QComboBox meldet "activated"
+    // auch, wenn das Feld den Fokus verliert und der Text zufällig einem Wert gleicht: das zählt nicht.
+    txtSongname_->view()->viewport()->installEventFilter(this);
+    txtSongname_->view()->installEventFilter(this);
+    connect(txtSongname_, &QComboBox::activated, this, [this](int i) {
+        if (!ausAufklappliste_) return;
+        ausAufklappliste_ = false;
+        txtSongname_Change(txtSongname_->itemText(i));
+    });
     connect(cboSuche_, &QComboBox::activated, this, &frmMain::cboSuche_Click);
     connect(cmdSucheLöschen_, &QPushButton::clicked, this, &frmMain::cmdSucheLöschen_Click);
     connect(cmdSucheMehr_, &QPushButton::clicked, this, &frmMain::cmdSucheMehr_Click);
@@ -45,6 +51,12 @@ void frmMain::VerbindenSuche() {
 // Rücktaste und Entf (bei nicht leerem Text) unterdrücken die nächste Ergänzung; ein Klick ins
 // Feld zählt als Änderung.
 bool frmMain::eventFilter(QObject* objekt, QEvent* ereignis) {
+    if (objekt == txtSongname_->view()->viewport() && ereignis->type() == QEvent::MouseButtonRelease)
+        ausAufklappliste_ = true;
+    if (objekt == txtSongname_->view() && ereignis->type() == QEvent::KeyPress) {
+        const int taste = static_cast<QKeyEvent*>(ereignis)->key();
+        ausAufklappliste_ = taste == Qt::Key_Return || taste == Qt::Key_Enter;
+    }
     if (objekt == txtSongname_->lineEdit()) {
         if (ereignis->type() == QEvent::KeyPress) {
             const int taste = static_cast<QKeyEvent*>(ereignis)->key();

@@ -2,6 +2,7 @@
 #include "app/Kartei.h"
 #include "app/Pfade.h"
 #include "app/Start.h"
+#include "index/IndexDatei.h"
 #include "platform/KonfigRegistrierung.h"
 #include "platform/SystemDienste.h"
 #include "platform/Verzeichnisse.h"
@@ -15,8 +16,11 @@
 #include "UiTestHilfen.h"
 
 #include <QComboBox>
+#include <QHeaderView>
+#include <QMenu>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QTimer>
 
 #include <functional>
@@ -78,6 +82,41 @@ struct Fenster {
 };
 
 const char* SpeicherFrage = "Die Indexdatei wurde geändert.";
+
+// Ein Index mit sechs Liedern (ID3v1 gelesen), geschrieben wie vom Programm.
+std::string LiederIndex(const TestOrdner& ordner) {
+    TestUmgebung u;
+    u.k.E.StartBildschirm = 0;
+    const struct {
+        const char *datei, *titel, *interpret;
+    } lieder[] = {{"01 Ein Tag.mp3", "Ein Tag", "Band A"},       {"02 Ein Tag am Meer.mp3", "Ein Tag am Meer", "Band B"},
+                  {"03 Tag ein.mp3", "Tag ein", "Band A"},       {"04 Nacht.mp3", "Nacht", "Chor"},
+                  {"05 Morgen.mp3", "Morgen", "Band C"},         {"unter/06 Abend.mp3", "Abend", "Chor"}};
+    u.k.DateiPfade.ReDim(6);
+    u.k.DateiDaten.ReDim(6);
+    u.k.DateiTreffer.ReDim(6);
+    for (int32_t i = 1; i <= 6; ++i) {
+        const auto& l = lieder[i - 1];
+        u.k.DateiPfade[i] = ordner / l.datei;
+        u.k.DateiDaten[i].Mp3_ID3v1_Titel = l.titel;
+        u.k.DateiDaten[i].Mp3_ID3v1_Interpret = l.interpret;
+        u.k.DateiDaten[i].Mp3_ID3v1_Status = 1;
+    }
+    u.k.DateiAnzahl = 6;
+    const std::string pfad = ordner / "lieder.kkt";
+    if (!DateiSpeichern(u.k, pfad, false)) qFatal("Index nicht geschrieben");
+    return pfad;
+}
+
+QStringList Spalte(SongListeAnsicht* liste, int spalte) {
+    QStringList werte;
+    for (int z = 0; z < liste->model()->rowCount(); ++z) werte << liste->model()->index(z, spalte).data().toString();
+    return werte;
+}
+
+QPoint ZeilenMitte(SongListeAnsicht* liste, int zeile) {
+    return liste->visualRect(liste->model()->index(zeile, 0)).center();
+}
 }  // namespace
 
 class FensterTest : public QObject {
@@ -89,6 +128,9 @@ private slots:
     void SchliessenMitSpeicherfrage();
     void SchliessenOhneFrageBeiAutomatischemSpeichern();
     void AndererIndexUeberDenDateinamen();
+    void TippenSortierenWaehlenEntfernen();
+    void FeldsucheMitVorschlaegenUndErgaenzung();
+    void KontextmenueUndAuswahlhelfer();
 
 private:
     std::unique_ptr<QTemporaryDir> xdg_;
@@ -221,6 +263,185 @@ void FensterTest::AndererIndexUeberDenDateinamen() {
     // Der alte Index wurde vor dem Wechsel gespeichert (neu angelegt war er noch kk100).
     QVERIFY(DateiLesen(StandardIndexPfad()).rfind("#TAG:kk102\r\n", 0) == 0);
     QTRY_VERIFY_WITH_TIMEOUT(w.f->windowTitle().startsWith(QStringLiteral("Die Indexdatei wurde geladen")), 3000);
+}
+
+void FensterTest::TippenSortierenWaehlenEntfernen() {
+    TestOrdner ordner;
+    Fenster w;
+    w.k.E.TippsAktueller = 0;
+    w.Starten({LiederIndex(ordner)});
+    QCOMPARE(w.Zeilen(), 0);  // nach dem Start wird noch nicht gesucht
+    auto* eingabe = w.Kind<QComboBox>("txtSongname")->lineEdit();
+    auto* tmrListe = w.Kind<QTimer>("tmrListe");
+    auto* liste = w.f->lstSongs();
+
+    // Löschen der Suche zeigt alles.
+    QVERIFY(Drücken(*w.f, "cmdSucheLöschen"));
+    QCOMPARE(w.Zeilen(), 6);
+    QCOMPARE(w.Text("lblDateiAnzahl"), QStringLiteral("6 Datei(en) gefunden\n6 Datei(en) im Index"));
+
+    // Tippen: gesucht wird 600 ms nach der ersten Taste; weitere Tasten spannen nicht neu.
+    QTest::keyClick(eingabe, Qt::Key_N);
+    QVERIFY(tmrListe->isActive());
+    QTest::qWait(250);
+    QTest::keyClicks(eingabe, QStringLiteral("acht"));
+    QVERIFY(tmrListe->isActive());
+    QVERIFY(tmrListe->remainingTime() <= 400);
+    QCOMPARE(w.Zeilen(), 6);
+    QTRY_COMPARE_WITH_TIMEOUT(w.Zeilen(), 1, 2000);
+    QCOMPARE(Spalte(liste, 2), QStringList{QStringLiteral("Nacht")});
+    QCOMPARE(w.Text("lblDateiAnzahl"), QStringLiteral("1 Datei(en) gefunden\n6 Datei(en) im Index"));
+    // Rücktaste bis leer: leerer Text sucht sofort.
+    for (int i = 0; i < 5; ++i) QTest::keyClick(eingabe, Qt::Key_Backspace);
+    QCOMPARE(eingabe->text(), QString());
+    QCOMPARE(w.Zeilen(), 6);
+
+    // Sortieren nach "Titel": einmal auf-, dann absteigend (Kopfklick, Sortieren im Kern).
+    QCOMPARE(liste->model()->headerData(2, Qt::Horizontal).toString(), QStringLiteral("Titel"));
+    QHeaderView* kopf = liste->horizontalHeader();
+    const QPoint titelKopf(kopf->sectionViewportPosition(2) + 5, kopf->height() / 2);
+    QTest::mouseClick(kopf->viewport(), Qt::LeftButton, {}, titelKopf);
+    const QStringList auf = {QStringLiteral("Abend"),  QStringLiteral("Ein Tag"), QStringLiteral("Ein Tag am Meer"),
+                             QStringLiteral("Morgen"), QStringLiteral("Nacht"),   QStringLiteral("Tag ein")};
+    QCOMPARE(Spalte(liste, 2), auf);
+    QVERIFY(w.k.DateiGeändert);
+    QTRY_VERIFY_WITH_TIMEOUT(w.f->windowTitle().startsWith(QStringLiteral("Die Liste wurde sortiert")), 3000);
+    QTest::mouseClick(kopf->viewport(), Qt::LeftButton, {}, titelKopf);
+    QStringList ab = auf;
+    std::reverse(ab.begin(), ab.end());
+    QCOMPARE(Spalte(liste, 2), ab);
+
+    // Eine Zeile: Name und Ordner; mit Umschalt drei Zeilen: ihre Zahl, der Ordner als Verweis.
+    QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, ZeilenMitte(liste, 0));
+    QTRY_COMPARE(w.Text("lblIndexdateiUntertitel1"), QStringLiteral("03 Tag ein.mp3"));
+    QCOMPARE(w.Text("lblIndexDateiUntertitel2"), QString::fromStdString(ordner.Pfad()));
+    QVERIFY(w.Kind<QWidget>("fraNurBeiAusgewählt")->isVisible());
+    QTest::mouseClick(liste->viewport(), Qt::LeftButton, Qt::ShiftModifier, ZeilenMitte(liste, 2));
+    QTRY_COMPARE(w.Text("lblIndexdateiUntertitel1"), QStringLiteral("Es wurden 3 Dateien gewählt."));
+    QCOMPARE(w.k.Suche.AusgewähltAnzahl, 3);
+
+    // Entf fragt; "Nein" lässt alles, "Ja" entfernt die drei und sucht neu.
+    liste->setFocus();
+    w.antworten = {Meldung::Nein};
+    QTest::keyClick(liste, Qt::Key_Delete);
+    QVERIFY(w.Gefragt("Möchten Sie 3 Datei(en) aus dem Index entfernen?"));
+    QCOMPARE(w.k.DateiAnzahl, 6);
+    w.antworten = {Meldung::Ja};
+    QTest::keyClick(liste, Qt::Key_Delete);
+    QCOMPARE(w.k.DateiAnzahl, 3);
+    QCOMPARE(w.Zeilen(), 3);
+    QCOMPARE(Spalte(liste, 2), (QStringList{QStringLiteral("Ein Tag am Meer"), QStringLiteral("Ein Tag"),
+                                            QStringLiteral("Abend")}));
+    QCOMPARE(w.Text("lblIndexdateiUntertitel1"), QStringLiteral("Markieren Sie eine Datei, um ihre Beschreibung "
+                                                                "anzuzeigen oder weitere Funktionen zu aktivieren."));
+    QVERIFY(!w.Kind<QWidget>("fraNurBeiAusgewählt")->isVisible());
+    // Entf und Eingabe ohne Auswahl tun nichts.
+    const size_t fragen = w.meldungen.size();
+    QTest::keyClick(liste, Qt::Key_Delete);
+    QTest::keyClick(liste, Qt::Key_Return);
+    QCOMPARE(w.meldungen.size(), fragen);
+    // Strg+A wählt alle, Eingabe mit Auswahl: Abspielen kommt erst mit dem Spieler.
+    QTest::keyClick(liste, Qt::Key_A, Qt::ControlModifier);
+    QTRY_COMPARE(w.Text("lblIndexdateiUntertitel1"), QStringLiteral("Es wurden 3 Dateien gewählt."));
+    QVERIFY(w.f->ShiftGedrückt());
+    QTest::keyClick(liste, Qt::Key_Return);
+    QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht verfügbar."));
+}
+
+void FensterTest::FeldsucheMitVorschlaegenUndErgaenzung() {
+    TestOrdner ordner;
+    Fenster w;
+    w.k.E.TippsAktueller = 0;
+    w.Starten({LiederIndex(ordner)});
+    auto* cboSuche = w.Kind<QComboBox>("cboSuche");
+    auto* txtSongname = w.Kind<QComboBox>("txtSongname");
+    auto* eingabe = txtSongname->lineEdit();
+    // Feld "Interpret": die Aufklappliste hält die Werte des Index, in seiner Reihenfolge.
+    cboSuche->setCurrentIndex(1);
+    emit cboSuche->activated(1);
+    QCOMPARE(txtSongname->count(), 4);
+    QCOMPARE(txtSongname->itemText(0), QStringLiteral("Band A"));
+    QCOMPARE(txtSongname->itemText(2), QStringLiteral("Chor"));
+    // Ein leerer Text in einem Feld: alle mit einem Wert darin.
+    QCOMPARE(w.Zeilen(), 6);
+    // Ergänzen: getippt bleibt, der Rest ist markiert und wird von der nächsten Taste ersetzt.
+    QTest::keyClicks(eingabe, QStringLiteral("ch"));
+    QCOMPARE(eingabe->text(), QStringLiteral("Chor"));
+    QCOMPARE(eingabe->selectedText(), QStringLiteral("or"));
+    QTRY_COMPARE_WITH_TIMEOUT(w.Zeilen(), 2, 2000);
+    // Rücktaste löscht die Markierung und wird nicht wieder ergänzt.
+    QTest::keyClick(eingabe, Qt::Key_Backspace);
+    QCOMPARE(eingabe->text(), QStringLiteral("Ch"));
+    QTRY_VERIFY_WITH_TIMEOUT(!w.Kind<QTimer>("tmrListe")->isActive(), 2000);
+    // Erweiterte Suche: eine zweite Zeile sperrt Feld und Text.
+    w.skripte[QStringLiteral("frmSucheErweitert")] = [&](QDialog& d) {
+        auto* zeilen = d.findChild<QListWidget*>(QStringLiteral("lstSucheAuflistung"));
+        QTRY_COMPARE(zeilen->count(), 1);
+        w.skripte[QStringLiteral("frmSucheErweitertHinzufügen")] = [](QDialog& h) {
+            auto* felder = h.findChild<QListWidget*>(QStringLiteral("lstSucheArt"));
+            felder->setCurrentRow(3);  // Titel
+            h.findChild<QLineEdit*>(QStringLiteral("txtSucheBegriff"))->setText(QStringLiteral("Abend"));
+            h.findChild<QComboBox*>(QStringLiteral("cboSucheMussDarfNicht"))->setCurrentIndex(1);
+            QVERIFY(Drücken(h, "cmdOk"));
+        };
+        QVERIFY(Drücken(d, "cmdSucheNeu"));
+        QCOMPARE(zeilen->count(), 2);
+        QCOMPARE(zeilen->item(1)->text(), QStringLiteral("Suche nach 'Abend' im Feld 'Titel'"));
+        QVERIFY(!d.findChild<QAbstractButton*>(QStringLiteral("cmdAbbrechen"))->isEnabled());
+        QVERIFY(Drücken(d, "cmdOk"));
+    };
+    QVERIFY(Drücken(*w.f, "cmdSucheMehr"));
+    QVERIFY(!cboSuche->isEnabled());
+    QVERIFY(!txtSongname->isEnabled());
+    QCOMPARE(eingabe->text(), QStringLiteral("(Mehrere Such-Abfragen)"));
+    QCOMPARE(w.k.Suche.SuchBedingungen[2], std::string("11"));
+    // "Ch" im Interpreten und nicht "Abend" im Titel: nur noch "Nacht". (Mit "Chor" hätte die
+    // genaue Entsprechung beide behalten.)
+    QCOMPARE(w.k.Suche.SuchBegriffe[1], std::string("Ch"));
+    QTRY_COMPARE_WITH_TIMEOUT(w.Zeilen(), 1, 2000);
+    QCOMPARE(Spalte(w.f->lstSongs(), 2), QStringList{QStringLiteral("Nacht")});
+    QVERIFY(Drücken(*w.f, "cmdSucheLöschen"));
+    QVERIFY(cboSuche->isEnabled());
+    QCOMPARE(w.Zeilen(), 6);
+}
+
+void FensterTest::KontextmenueUndAuswahlhelfer() {
+    TestOrdner ordner;
+    Fenster w;
+    w.k.E.TippsAktueller = 0;
+    w.Starten({LiederIndex(ordner)});
+    QVERIFY(Drücken(*w.f, "cmdSucheLöschen"));
+    auto* liste = w.f->lstSongs();
+    auto* kontext = w.f->findChild<QMenu*>(QStringLiteral("mnu_kontext"));
+    // Ohne Auswahl öffnet die rechte Taste kein Menü.
+    liste->clearSelection();
+    QTest::mouseClick(liste->viewport(), Qt::RightButton, {}, QPoint(2, liste->viewport()->height() - 2));
+    QVERIFY(!kontext->isVisible());
+    // Zeile 2 wählen, dann "ab hier": 2 bis 6; "umkehren": 1.
+    QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, ZeilenMitte(liste, 1));
+    auto aktion = [&](const char* name) { return w.f->findChild<QAction*>(QString::fromUtf8(name)); };
+    QTest::mouseClick(liste->viewport(), Qt::RightButton, {}, ZeilenMitte(liste, 1));
+    QTRY_VERIFY(kontext->isVisible());
+    QVERIFY(aktion("mnu_song_allesongsvoninterpret")->isEnabled());  // ID3v1 gelesen, eine Datei
+    kontext->hide();
+    aktion("mnu_wähleabhier")->trigger();
+    QCOMPARE(w.k.Suche.AusgewähltAnzahl, 5);
+    aktion("mnu_wähleumkehren")->trigger();
+    QCOMPARE(w.k.Suche.AusgewähltAnzahl, 1);
+    QCOMPARE(w.Text("lblIndexdateiUntertitel1"), QStringLiteral("01 Ein Tag.mp3"));
+    // "Alle Songs dieses Interpreten": Feld Interpret, Text "Band A", ohne Ergänzung gesucht.
+    aktion("mnu_song_allesongsvoninterpret")->trigger();
+    QCOMPARE(w.Kind<QComboBox>("cboSuche")->currentIndex(), 1);
+    QCOMPARE(w.Kind<QComboBox>("txtSongname")->currentText(), QStringLiteral("Band A"));
+    QTRY_COMPARE_WITH_TIMEOUT(w.Zeilen(), 2, 2000);
+    // Zwischenablage: der Pfad der einen Datei.
+    QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, ZeilenMitte(liste, 1));
+    aktion("mnu_song_zwischenablage")->trigger();
+    QCOMPARE(w.shell.zwischenablage, std::vector<std::string>{ordner / "03 Tag ein.mp3"});
+    // Nicht gebaute Befehle sagen es.
+    w.f->BefehlAusführen(QStringLiteral("cmdUmbenennen"));
+    QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht verfügbar."));
+    QCOMPARE(w.meldungen.back().schalter, Meldung::Information);
 }
 
 #include "FensterTest.moc"
