@@ -5,9 +5,18 @@
 #include "search/Hauptfenster.h"
 #include "support/Attrappen.h"
 #include "support/IndexGenerator.h"
+#include "index/IndexDatei.h"
+#include "platform/SystemDienste.h"
+#include "ui/GuiOberflaeche.h"
+#include "ui/Programmstart.h"
 #include "ui/SongListe.h"
+#include "ui/frmMain.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTimer>
 #include <QHeaderView>
 #include <QScrollBar>
 
@@ -113,8 +122,72 @@ void BM_AuswahlDerPerson(benchmark::State& state) {
             l.ansicht->clearSelection();
     }
 }
+// Das ganze Hauptfenster über einem erfundenen Index: eine Taste im Suchfeld bis zur fertigen Liste
+// (tmrListe ohne Wartezeit, damit nur die Arbeit zählt).
+struct Hauptfenster {
+    QWidget* besitzer = nullptr;
+    GuiOberfläche ui{[this] { return besitzer; }};
+    TestRegistrierung registrierung;
+    KeinSpielerfenster spieler;
+    TestShell shell;
+    TestDatenträger datenträger;
+    SystemUhr uhr;
+    TestZufall zufall;
+    Kartei k{Dienste{ui, registrierung, spieler, shell, datenträger, uhr, zufall}};
+    std::unique_ptr<frmMain> f;
+    QLineEdit* eingabe = nullptr;
+    QTimer* tmrListe = nullptr;
+
+    explicit Hauptfenster(int32_t anzahl) {
+        const std::string pfad = "/tmp/kk_bench_fenster_" + std::to_string(anzahl) + ".kkt";
+        {
+            TestUmgebung u;
+            IndexErzeugen(u.k, anzahl);
+            u.k.E.StartBildschirm = 0;
+            DateiSpeichern(u.k, pfad, false);
+        }
+        ui.meldungsSkript = [](const std::string&, int) { return Meldung::Ok; };
+        ui.dialogSkript = [](QDialog&) {};
+        k.Dateiname = pfad;
+        k.E.TippsAktueller = 0;
+        k.E.StartBildschirm = 0;
+        f = std::make_unique<frmMain>(k, ui, pfad);
+        besitzer = f.get();
+        FensterStarten(k, *f, ui);
+        eingabe = f->findChild<QComboBox*>(QStringLiteral("txtSongname"))->lineEdit();
+        tmrListe = f->findChild<QTimer*>(QStringLiteral("tmrListe"));
+        tmrListe->setInterval(0);
+        Taste(Qt::Key_C, QStringLiteral("c"));
+        Taste(Qt::Key_A, QStringLiteral("a"));
+    }
+    void Taste(int taste, const QString& text) {
+        QKeyEvent drücken(QEvent::KeyPress, taste, Qt::NoModifier, text);
+        QApplication::sendEvent(eingabe, &drücken);
+        while (tmrListe->isActive()) QApplication::processEvents();
+        QApplication::processEvents();
+    }
+};
+
+Hauptfenster& HauptfensterVorbereitet(int64_t anzahl) {
+    static std::map<int64_t, std::unique_ptr<Hauptfenster>> fenster;
+    auto& f = fenster[anzahl];
+    if (!f) f = std::make_unique<Hauptfenster>(int32_t(anzahl));
+    return *f;
+}
+
+void BM_TasteBisZurListe(benchmark::State& state) {
+    Hauptfenster& h = HauptfensterVorbereitet(state.range(0));
+    for (auto _ : state) {
+        h.Taste(Qt::Key_L, QStringLiteral("l"));  // "ca" → "cal"
+        state.PauseTiming();
+        h.Taste(Qt::Key_Backspace, QString());
+        state.ResumeTiming();
+    }
+    state.counters["Zeilen"] = double(h.k.Liste.lstSongs.zeilen.size());
+}
 }  // namespace
 
+BENCHMARK(BM_TasteBisZurListe)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ListeAbgleichen)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SeiteZeichnen)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_SeiteRollen)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
