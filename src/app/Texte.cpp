@@ -176,6 +176,15 @@ bool TexteGleich(std::string_view a, std::string_view b) {
     return i == a.size() && j == b.size();
 }
 
+uint64_t NamenStreuwert(std::string_view text) {
+    // FNV-1a über die klein abgebildeten Codepunkte (je einer ein Schritt), wie TexteGleich
+    // sie vergleicht.
+    uint64_t h = 14695981039346656037ull;
+    size_t pos = 0;
+    while (pos < text.size()) h = (h ^ static_cast<uint32_t>(KleinCp(CodepunktLesen(text, pos)))) * 1099511628211ull;
+    return h;
+}
+
 int32_t InStr(int32_t start, std::string_view text, std::string_view suche) {
     if (start < 1 || static_cast<size_t>(start) > text.size() + 1) return 0;
     auto p = text.find(suche, static_cast<size_t>(start - 1));

@@ -31,6 +31,9 @@ int32_t ZeichenAnzahl(std::string_view text);
 bool TexteGleich(std::string_view a, std::string_view b);
 // Pfade und Namen: dieselbe Regel (gleiche Länge, Groß/Klein egal).
 inline bool NamenGleich(std::string_view a, std::string_view b) { return TexteGleich(a, b); }
+// Streuwert passend zu TexteGleich/NamenGleich: gleiche Texte geben gleiche Werte. Für
+// Nachschlagetabellen, die sonst jeden Pfad mit jedem vergleichen müssten.
+uint64_t NamenStreuwert(std::string_view text);
 // InStr: erste Fundstelle von suche in text ab Byte-Position start (1-basiert), 0 = keine.
 // Leere Suche findet start (wenn start <= Länge + 1).
 int32_t InStr(int32_t start, std::string_view text, std::string_view suche);
