@@ -24,9 +24,10 @@ struct AufnahmeZustand {
     // neuen Start darf die alte NeueAnzahl nicht noch einmal übernehmen.
     bool SammlungOffen = false;
 
-    // Doppelten-Sperre: Streuwert (NamenStreuwert) und Eintragsnummer aller Indexpfade,
-    // sortiert; einmal je Stapel gebaut, damit nicht jede Datei den ganzen Index vergleicht.
-    std::vector<std::pair<uint64_t, int32_t>> IndexPfadStreuwerte;
+    // Doppelten-Sperre: Streutabelle (offene Adressierung) aus den oberen 32 Bit des Streuwerts
+    // (NamenStreuwert) und der Eintragsnummer aller Indexpfade, Nummer 0 = leerer Platz. Einmal
+    // je Stapel gebaut, damit nicht jede Datei den ganzen Index vergleicht.
+    std::vector<std::pair<uint32_t, int32_t>> IndexPfadTabelle;
     int32_t IndexPfadeGebautFür = -1;  // DateiAnzahl beim Bauen, -1 = nicht gebaut
 
     // Nachfrage "Datei nicht verfügbar".

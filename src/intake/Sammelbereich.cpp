@@ -20,33 +20,46 @@ void SammelbereichLeeren(AufnahmeZustand& a) {
     a.NeueDateien.ReDim(1);
     a.NeueMedien.ReDim(1);
     a.SammlungOffen = false;
-    a.IndexPfadStreuwerte.clear();
+    a.IndexPfadTabelle = {};  // bis zu Megabytes: nicht über den Stapel hinaus halten
     a.IndexPfadeGebautFür = -1;
 }
 
-// Einmal je Stapel: Streuwerte aller Indexpfade, sortiert. Danach kostet eine Datei eine Suche
-// im sortierten Feld und nur bei gleichem Streuwert einen echten Vergleich.
+// Die oberen Bits des Streuwerts; die unteren wählen schon den Platz.
+uint32_t Marke(uint64_t streuwert) { return static_cast<uint32_t>(streuwert >> 32); }
+
+// Einmal je Stapel: alle Indexpfade in eine Streutabelle. Danach kostet eine Datei einen
+// Streuwert und nur bei gleichem Wert einen echten Vergleich.
 void IndexPfadeErfassen(Kartei& k) {
     auto& a = k.Aufnahme;
-    const int32_t anzahl = std::min(k.DateiAnzahl, k.DateiPfade.UBound());
-    a.IndexPfadStreuwerte.clear();
-    a.IndexPfadStreuwerte.reserve(static_cast<size_t>(std::max(anzahl, 0)));
-    for (int32_t i = 1; i <= anzahl; ++i) a.IndexPfadStreuwerte.emplace_back(NamenStreuwert(k.DateiPfade[i]), i);
-    std::sort(a.IndexPfadStreuwerte.begin(), a.IndexPfadStreuwerte.end());
+    const int32_t anzahl = std::max(0, std::min(k.DateiAnzahl, k.DateiPfade.UBound()));
+    size_t plätze = 16;
+    while (plätze < size_t(anzahl) * 2) plätze *= 2;
+    // Erst alle Streuwerte der Reihe nach, dann einsortieren: so überlappen sich die Zugriffe
+    // auf die verstreuten Plätze, statt aufeinander zu warten.
+    std::vector<uint64_t> streuwerte(size_t(anzahl) + 1);
+    for (int32_t i = 1; i <= anzahl; ++i) streuwerte[size_t(i)] = NamenStreuwert(k.DateiPfade[i]);
+    a.IndexPfadTabelle.assign(plätze, {0, 0});
+    for (int32_t i = 1; i <= anzahl; ++i) {
+        if (i + 8 <= anzahl) __builtin_prefetch(&a.IndexPfadTabelle[streuwerte[size_t(i + 8)] & (plätze - 1)], 1);
+        size_t platz = streuwerte[size_t(i)] & (plätze - 1);
+        while (a.IndexPfadTabelle[platz].second != 0) platz = (platz + 1) & (plätze - 1);
+        a.IndexPfadTabelle[platz] = {Marke(streuwerte[size_t(i)]), i};
+    }
     a.IndexPfadeGebautFür = k.DateiAnzahl;
 }
 
 // Steht datei (gleiche Länge, Groß/Klein egal) schon im Index?
 bool SchonImIndex(Kartei& k, const std::string& datei) {
     auto& a = k.Aufnahme;
-    if (a.IndexPfadeGebautFür != k.DateiAnzahl) IndexPfadeErfassen(k);
+    if (a.IndexPfadeGebautFür != k.DateiAnzahl || a.IndexPfadTabelle.empty()) IndexPfadeErfassen(k);
+    const size_t maske = a.IndexPfadTabelle.size() - 1;
     const uint64_t streuwert = NamenStreuwert(datei);
-    auto it = std::lower_bound(a.IndexPfadStreuwerte.begin(), a.IndexPfadStreuwerte.end(),
-                               std::pair<uint64_t, int32_t>{streuwert, INT32_MIN});
-    for (; it != a.IndexPfadStreuwerte.end() && it->first == streuwert; ++it)
-        if (it->second <= k.DateiAnzahl && k.DateiPfade.GültigerIndex(it->second) &&
-            NamenGleich(k.DateiPfade[it->second], datei))
+    for (size_t platz = streuwert & maske; a.IndexPfadTabelle[platz].second != 0; platz = (platz + 1) & maske) {
+        const auto [marke, nummer] = a.IndexPfadTabelle[platz];
+        if (marke == Marke(streuwert) && nummer <= k.DateiAnzahl && k.DateiPfade.GültigerIndex(nummer) &&
+            NamenGleich(k.DateiPfade[nummer], datei))
             return true;
+    }
     return false;
 }
 }  // namespace
