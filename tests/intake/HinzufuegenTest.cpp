@@ -1,6 +1,7 @@
 // Hinzufügen: ein Ordnerbaum samt Playliste als Ablage, Doppelte, Abbruch, Meldungen.
 #include "app/Texte.h"
 #include "intake/Hinzufuegen.h"
+#include "intake/HinzufuegenFragen.h"
 #include "intake/PlayListe.h"
 #include "settings/Dateitypen.h"
 #include "shell/Fortschritt.h"
@@ -185,4 +186,38 @@ TEST(Hinzufuegen, NeueInListeMarkieren) {
     NeueInListeMarkieren(u.k, 6, liste);
     EXPECT_EQ(liste.version, vorher);
     EXPECT_TRUE(liste.zeilen[1].ausgewählt);
+}
+
+TEST(Hinzufuegen, KnoepfeDesDialogs) {
+    Umgebung u;
+    TestOrdner o;
+    DateiSchreiben(o / "a.mp3", kMp3);
+    DateiSchreiben(o / "ordner/b.mp3", kMp3);
+    DateiSchreiben(o / "liste.m3u", "b.mp3\n");  // liegt nicht daneben: nichts
+    EXPECT_EQ(FreigegebeneMasken(u.k), "*.mp3,*.mp2,*.mp1,*.wma,*.wmf,*.wav,*.aac,*.vqf");
+
+    u.ui.dateiListen = {{o / "a.mp3"}};
+    DateienHinzufügenFragen(u.k);
+    u.ui.ordner = {o / "ordner"};
+    OrdnerHinzufügenFragen(u.k);
+    u.ui.dateiListen = {{o / "liste.m3u"}};
+    PlaylisteImportierenFragen(u.k);
+    EXPECT_EQ(IndexPfade(u.k), (std::vector<std::string>{o / "a.mp3", o / "ordner/b.mp3"}));
+    EXPECT_EQ(u.ui.titelTexte, (std::vector<std::string>{"1 Datei(en) hinzugefügt", "1 Datei(en) hinzugefügt",
+                                                         "0 Datei(en) hinzugefügt"}));
+    // Abbrechen im Dialog: still.
+    u.ui.dateiListen = {{}};
+    DateienHinzufügenFragen(u.k);
+    EXPECT_TRUE(u.ui.meldungen.empty());
+
+    for (int i = 1; i <= 13; ++i) u.k.Optionen.DateitypEintrag[i] = "x" + std::to_string(i) + "=0";
+    DateienHinzufügenFragen(u.k);
+    u.k.Optionen.DateitypEintrag.ReDim(1);
+    DateienHinzufügenFragen(u.k);
+    ASSERT_EQ(u.ui.meldungen.size(), 2u);
+    EXPECT_EQ(u.ui.meldungen[0].text, "Sie können keine Dateien hinzufügen, da kein Dateityp für die Verwaltung "
+                                      "freigegeben wurde.\n\nÄndern Sie diese Einstellung in den 'Optionen'.");
+    EXPECT_EQ(u.ui.meldungen[1].text, "Sie können keine Dateien hinzufügen, da kein Dateityp eingerichtet wurde.\n\n"
+                                      "Installieren Sie dieses Programm neu, um die Dateitypen wiederherzustellen.");
+    EXPECT_EQ(u.ui.meldungen[1].schalter, 64);
 }
