@@ -37,7 +37,8 @@ public:
             for (int f = 0; f < 8; ++f) anfang += mpeg::Frame(mpeg::Kopf{});
             const std::string ende = mpeg::Frame(mpeg::Kopf{}) +
                                      mpeg::Id3v1("Titel", "Interpret", "Album", "2001", "", i % 100, 17);
-            const std::string unter = "/Interpret " + std::to_string(i / 1000) + "/Album " + std::to_string(i / 100 % 10);
+            const std::string unter =
+                "/Interpret " + std::to_string(i / 1000) + "/Album " + std::to_string(i / 100 % 10);
             std::filesystem::create_directories(ordner_ + unter);
             pfade_.push_back(ordner_ + unter + "/Lied " + std::to_string(i) + ".mp3");
             mpeg::DünneDateiSchreiben(pfade_.back(), anfang, 3000000 + int64_t(z() % 2000000), ende);

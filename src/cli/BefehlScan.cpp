@@ -36,7 +36,8 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
     SuchlisteHinzufügen(c.k, "", 1);
     DateienSuchenAPI(c.k, ordner, masken, unterordner, false);
     std::string aus;
-    for (int32_t i = 1; i <= c.k.Aufnahme.SuchlisteAnzahl; ++i) aus += AusgabeMaskieren(c.k.Aufnahme.Suchliste[i]) + "\n";
+    const auto& a = c.k.Aufnahme;
+    for (int32_t i = 1; i <= a.SuchlisteAnzahl; ++i) aus += AusgabeMaskieren(a.Suchliste[i]) + "\n";
     std::fwrite(aus.data(), 1, aus.size(), stdout);
     return std::fflush(stdout) == 0 ? 0 : 1;
 }

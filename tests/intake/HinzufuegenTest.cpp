@@ -38,8 +38,8 @@ struct Umgebung : TestUmgebung {
 TEST(Hinzufuegen, OrdnerbaumUndPlaylisteAlsAblage) {
     Umgebung u;
     TestOrdner o;
-    for (const char* n : {"musik/b.mp3", "musik/A.MP3", "musik/sub/c.mp3", "musik/x.mp3/innen.mp3", "musik/sub/tief/d.aac",
-                          "extra.mp3", "liste/eins.mp3", "liste/zwei.mp3"})
+    for (const char* n : {"musik/b.mp3", "musik/A.MP3", "musik/sub/c.mp3", "musik/x.mp3/innen.mp3",
+                          "musik/sub/tief/d.aac", "extra.mp3", "liste/eins.mp3", "liste/zwei.mp3"})
         DateiSchreiben(o / n, kMp3);
     for (const char* n : {"musik/bild.jpg", "musik/notiz.txt", "musik/klang.wav", "musik/lied.wma", "musik/liste.m3u"})
         DateiSchreiben(o / n, "RIFF....");
@@ -90,7 +90,8 @@ TEST(Hinzufuegen, DoppelteOhneGrossKlein) {
 
     EinfachDateiHinzufügen(u.k, Liste({o / "Ärger.mp3", o / "b.mp3", o / "b.mp3"}), false, true, false);
     // Derselbe Pfad zweimal in einem Stapel kommt zweimal hinein: nur der Index wird verglichen.
-    EXPECT_EQ(IndexPfade(u.k), (std::vector<std::string>{Groß(o / "ärger.mp3"), o / "b.mp3x", o / "b.mp3", o / "b.mp3"}));
+    EXPECT_EQ(IndexPfade(u.k),
+              (std::vector<std::string>{Groß(o / "ärger.mp3"), o / "b.mp3x", o / "b.mp3", o / "b.mp3"}));
     EXPECT_EQ(u.ui.titelTexte.back(), "2 Datei(en) hinzugefügt");
     // Ohne Sperre kommen beide trotzdem.
     u.k.E.HinzufügenKeineDoppelten = 0;
@@ -155,9 +156,9 @@ TEST(Hinzufuegen, OrdnerFehltOderIstLeer) {
     ASSERT_EQ(u.ui.meldungen.size(), 1u);
     EXPECT_EQ(u.ui.meldungen[0].schalter, 48);
     EXPECT_EQ(u.ui.meldungen[0].text,
-              "Beim Hinzufügen des Ordners '" + fehlt + "' ist ein Fehler aufgetreten: \nDer Ordner existiert nicht "
-              "oder ist kein gültiger Ordnername.\n\nÄndern Sie den Ordner-Namen in den Optionen und stellen sie sicher, "
-              "daß sich dieser Ordner auf einem Datenträger befindet, auf den Zugriff möglich ist.");
+              "Beim Hinzufügen des Ordners '" + fehlt + "' ist ein Fehler aufgetreten: \nDer Ordner existiert "
+              "nicht oder ist kein gültiger Ordnername.\n\nÄndern Sie den Ordner-Namen in den Optionen und stellen "
+              "sie sicher, daß sich dieser Ordner auf einem Datenträger befindet, auf den Zugriff möglich ist.");
     EXPECT_EQ(u.ui.titelTexte.back(), "Hinzufügen abgebrochen");
 
     // Ein Stapel vorher, dann ein leerer Ordner: der alte Stapel wird nicht noch einmal übernommen.

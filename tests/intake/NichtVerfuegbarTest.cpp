@@ -49,13 +49,13 @@ TEST(NichtVerfuegbar, FragenUeberspringenAbbrechen) {
     EXPECT_EQ(DateiNichtVerfügbarPrüfen(k, 3, true, false), 2);
     ASSERT_EQ(u.ui.nichtVerfügbarFragen.size(), 2u);
     EXPECT_EQ(u.ui.nichtVerfügbarFragen[0].text,
-              "Die Datei '/media/anna/CD/lied.mp3' ist zurzeit nicht verfügbar.\nBitte legen Sie den Quelldatenträger in "
-              "Laufwerk '/media/anna/CD' ein bzw. stellen Sie die Verfügbarkeit des Laufwerkes sicher, um den Vorgang "
-              "fortzusetzen oder ändern Sie den Indexeintrag bzw. löschen Sie diesen.");
+              "Die Datei '/media/anna/CD/lied.mp3' ist zurzeit nicht verfügbar.\nBitte legen Sie den "
+              "Quelldatenträger in Laufwerk '/media/anna/CD' ein bzw. stellen Sie die Verfügbarkeit des Laufwerkes "
+              "sicher, um den Vorgang fortzusetzen oder ändern Sie den Indexeintrag bzw. löschen Sie diesen.");
     EXPECT_EQ(u.ui.nichtVerfügbarFragen[1].text,
               "Die Datei '/media/anna/CD/zwei.mp3' ist zurzeit nicht verfügbar.\nBitte legen Sie den Datenträger "
-              "'Urlaub 2001' in Laufwerk '/media/anna/CD' ein bzw. stellen Sie die Verfügbarkeit des Laufwerkes sicher, "
-              "um den Vorgang fortzusetzen oder ändern Sie den Indexeintrag bzw. löschen Sie diesen.");
+              "'Urlaub 2001' in Laufwerk '/media/anna/CD' ein bzw. stellen Sie die Verfügbarkeit des Laufwerkes "
+              "sicher, um den Vorgang fortzusetzen oder ändern Sie den Indexeintrag bzw. löschen Sie diesen.");
     EXPECT_EQ(k.Aufnahme.DateiNichtVerfügbarAuswahl, 2);
 
     // "Alle überspringen": der Rest des Vorgangs still, der nächste fragt wieder.
