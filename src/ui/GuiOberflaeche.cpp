@@ -4,12 +4,20 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialog>
 #include <QFileDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
 #include <QInputDialog>
 #include <QMessageBox>
 
 namespace {
 QString Q(const std::string& s) { return QString::fromStdString(s); }
+// Antworten als Dialog-Ergebnis über Accepted/Rejected, damit Weiter (0) nicht Rejected ist.
+constexpr int kAntwortBasis = 10;
 }  // namespace
 
 int GuiOberfläche::MeldungZeigen(const std::string& text, int schalter) {
@@ -56,9 +64,37 @@ void GuiOberfläche::FortschrittDarstellen(const FortschrittAnsicht& ansicht) {
     if (fortschritt) fortschritt(ansicht);
 }
 
-NichtVerfügbarAntwort GuiOberfläche::DateiNichtVerfügbar(const std::string& pfad, const std::string&) {
-    int a = MeldungZeigen("Die Datei '" + pfad + "' ist nicht verfügbar.\n\nÜberspringen?", Meldung::JaNeinFrage);
-    return a == Meldung::Ja ? NichtVerfügbarAntwort::Überspringen : NichtVerfügbarAntwort::Abbrechen;
+// VORLÄUFIG: schlichter Dialog, bis frmDateiNichtVerfügbar mit dem Hauptfenster kommt.
+NichtVerfügbarAntwort GuiOberfläche::DateiNichtVerfügbar(const std::string&, const std::string& text,
+                                                         const std::function<bool()>& dateiDa) {
+    QDialog dialog(besitzer_ ? besitzer_() : nullptr);
+    dialog.setWindowTitle(QStringLiteral("Datei nicht verfügbar"));
+    auto* spalte = new QVBoxLayout(&dialog);
+    auto* lblText = new QLabel(Q(text));
+    lblText->setWordWrap(true);
+    spalte->addWidget(lblText);
+    auto* knöpfe = new QHBoxLayout;
+    spalte->addLayout(knöpfe);
+    const auto knopf = [&](const char* beschriftung, NichtVerfügbarAntwort antwort) {
+        auto* b = new QPushButton(QString::fromUtf8(beschriftung));
+        knöpfe->addWidget(b);
+        QObject::connect(b, &QPushButton::clicked, &dialog, [&dialog, antwort] { dialog.done(kAntwortBasis + int(antwort)); });
+    };
+    knopf("Ü&berspringen", NichtVerfügbarAntwort::Überspringen);
+    knopf("&Alle überspringen", NichtVerfügbarAntwort::AlleÜberspringen);
+    knopf("Vorgang abbrechen", NichtVerfügbarAntwort::Abbrechen);
+    // tmrDateiSuchen: während der Prüfung aus, damit ein langsames Laufwerk keine Ticks anstaut.
+    QTimer tmrDateiSuchen;
+    tmrDateiSuchen.setSingleShot(true);
+    QObject::connect(&tmrDateiSuchen, &QTimer::timeout, &dialog, [&] {
+        if (dateiDa && dateiDa()) dialog.done(kAntwortBasis + int(NichtVerfügbarAntwort::Weiter));
+        else tmrDateiSuchen.start(1000);
+    });
+    tmrDateiSuchen.start(1000);
+    // Schließen über die Titelleiste (Rejected) zählt wie "Vorgang abbrechen".
+    const int ergebnis = dialog.exec() - kAntwortBasis;
+    if (ergebnis < 0 || ergebnis > int(NichtVerfügbarAntwort::AlleÜberspringen)) return NichtVerfügbarAntwort::Abbrechen;
+    return static_cast<NichtVerfügbarAntwort>(ergebnis);
 }
 
 bool GuiOberfläche::NamenEingeben(const std::string& titel, const std::string&, std::string& text, int32_t,
