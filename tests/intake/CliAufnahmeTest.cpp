@@ -1,26 +1,17 @@
 // Die Befehle add, import, scan und types als Ganzes.
+#include "support/CliAufruf.h"
 #include "support/MpegDaten.h"
 #include "support/TestOrdner.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <sys/wait.h>
 #include <vector>
 
 namespace {
-struct Ergebnis {
-    int rückgabe;
-    std::string aus, fehler;
-};
+using Ergebnis = CliErgebnis;
 
 Ergebnis Aufruf(const TestOrdner& o, const std::vector<std::string>& argumente) {
-    std::string befehl = "XDG_CONFIG_HOME='" + o / "cfg" + "' XDG_DATA_HOME='" + o / "data" + "' XDG_CACHE_HOME='" +
-                         o / "cache" + "' '" KK_CLI "'";
-    for (const auto& a : argumente) befehl += " '" + a + "'";
-    befehl += " >'" + o / "aus" + "' 2>'" + o / "fehler" + "' </dev/null";
-    const int status = std::system(befehl.c_str());
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, DateiLesen(o / "aus"), DateiLesen(o / "fehler")};
+    return CliAufrufen(KK_CLI, o, argumente);
 }
 
 const std::string kMp3 = mpeg::Frame(mpeg::Kopf{}) + mpeg::Füllung(1000);
