@@ -8,6 +8,7 @@
 #include "platform/LinuxDatentraeger.h"
 #include "settings/Dateitypen.h"
 #include "shell/Fortschritt.h"
+#include "MpegSammlung.h"
 #include "support/Attrappen.h"
 #include "support/IndexGenerator.h"
 #include "support/MpegDaten.h"
@@ -22,42 +23,8 @@ namespace {
 constexpr int kDateien = 10000;
 constexpr int32_t kGroßerIndex = 100000;
 
-class Sammlung {
-public:
-    Sammlung() {
-        std::string vorlage = (std::filesystem::temp_directory_path() / "kk-bench-XXXXXX").string();
-        ordner_ = mkdtemp(vorlage.data()) ? vorlage : "";
-        std::mt19937 z(7);
-        for (int i = 0; i < kDateien; ++i) {
-            mpeg::V2Tag t;
-            t.rahmen = {mpeg::Text("TIT2", "Titel " + std::to_string(i)), mpeg::Text("TPE1", "Interpret"),
-                        mpeg::Text("TALB", "Album"), mpeg::Text("TRCK", std::to_string(i % 100))};
-            t.padding = 512;
-            std::string anfang = mpeg::Id3v2(t);
-            for (int f = 0; f < 8; ++f) anfang += mpeg::Frame(mpeg::Kopf{});
-            const std::string ende = mpeg::Frame(mpeg::Kopf{}) +
-                                     mpeg::Id3v1("Titel", "Interpret", "Album", "2001", "", i % 100, 17);
-            const std::string unter =
-                "/Interpret " + std::to_string(i / 1000) + "/Album " + std::to_string(i / 100 % 10);
-            std::filesystem::create_directories(ordner_ + unter);
-            pfade_.push_back(ordner_ + unter + "/Lied " + std::to_string(i) + ".mp3");
-            mpeg::DünneDateiSchreiben(pfade_.back(), anfang, 3000000 + int64_t(z() % 2000000), ende);
-        }
-    }
-    ~Sammlung() {
-        std::error_code fehler;
-        std::filesystem::remove_all(ordner_, fehler);
-    }
-    const std::string& Ordner() const { return ordner_; }
-    const std::vector<std::string>& Pfade() const { return pfade_; }
-
-private:
-    std::string ordner_;
-    std::vector<std::string> pfade_;
-};
-
-const Sammlung& Dateien() {
-    static const Sammlung sammlung;
+const MpegSammlung& Dateien() {
+    static const MpegSammlung sammlung(kDateien, true);
     return sammlung;
 }
 
