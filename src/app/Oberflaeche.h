@@ -2,6 +2,7 @@
 // Was eine Routine von der Person verlangen darf: Meldungen, Fragen, Titeltexte, Fortschritt.
 // Das Fenster zeigt echte Dialoge, die Kommandozeile fragt über Schalter, Tests über ein Skript.
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -45,10 +46,11 @@ public:
     virtual void FortschrittDarstellen(const FortschrittAnsicht& ansicht) = 0;
 
     // --- Modale Fragen; jede Frage eine Methode ---
-    // Datei oder Datenträger fehlt. mediumBezeichnung: erwarteter Datenträger (kann leer sein).
-    // dateiDaPrüfen meldet, ob die Datei inzwischen da ist (die Antwort kann von selbst kommen).
-    virtual NichtVerfügbarAntwort DateiNichtVerfügbar(const std::string& pfad,
-                                                      const std::string& mediumBezeichnung) = 0;
+    // Datei oder Datenträger fehlt (frmDateiNichtVerfügbar). text: der fertige Hinweis. dateiDa
+    // etwa einmal je Sekunde fragen: true heißt, die Datei ist erschienen, und die Frage endet
+    // von selbst mit Weiter.
+    virtual NichtVerfügbarAntwort DateiNichtVerfügbar(const std::string& pfad, const std::string& text,
+                                                      const std::function<bool()>& dateiDa) = 0;
     // Einen Namen eingeben (Text vorbelegt, Auswahl ab 1-basiertem Zeichen); false = Abbrechen.
     virtual bool NamenEingeben(const std::string& titel, const std::string& knopf, std::string& text,
                                int32_t auswahlStart, int32_t auswahlLänge) = 0;

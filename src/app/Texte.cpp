@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstring>
 
 namespace {
@@ -204,6 +205,66 @@ bool TexteGleich(std::string_view a, std::string_view b) {
 }
 
 bool BeginntMitText(std::string_view text, std::string_view anfang) { return StehtAn(text, 0, anfang); }
+
+uint64_t NamenStreuwert(std::string_view text) {
+    // Über die klein abgebildeten Codepunkte, die TexteGleich vergleicht: ASCII-Zeichen zu je
+    // acht in einem Wort, jedes andere einzeln. Die Aufteilung hängt nur an den abgebildeten
+    // Zeichen (auch "\u212A" wird zu ASCII "k"), so geben gleiche Texte gleiche Werte.
+    uint64_t h = 0x243F6A8885A308D3ull;
+    const auto mischen = [&h](uint64_t w) {
+        h = (h ^ w) * 0x9E3779B97F4A7C15ull;
+        h ^= h >> 32;
+    };
+    uint64_t wort = 0;
+    int gesammelt = 0;
+    const auto ascii = [&](uint64_t zeichen) {
+        wort |= zeichen << (8 * gesammelt);
+        if (++gesammelt == 8) {
+            mischen(wort);
+            wort = 0;
+            gesammelt = 0;
+        }
+    };
+    size_t pos = 0;
+    while (pos < text.size()) {
+        if (gesammelt == 0 && pos + 8 <= text.size()) {  // acht ASCII-Zeichen auf einmal
+            uint64_t block;
+            std::memcpy(&block, text.data() + pos, 8);
+            if constexpr (std::endian::native == std::endian::big) block = __builtin_bswap64(block);
+            if ((block & 0x8080808080808080ull) == 0) {
+                const uint64_t eins = 0x0101010101010101ull;
+                const uint64_t groß = ((block + (0x80 - 'A') * eins) ^ (block + (0x80 - 'Z' - 1) * eins)) &
+                                      0x8080808080808080ull;
+                mischen(block | (groß >> 2));
+                pos += 8;
+                continue;
+            }
+        }
+        const auto b = static_cast<unsigned char>(text[pos]);
+        if (b < 0x80) {
+            ascii(b >= 'A' && b <= 'Z' ? b + 32u : b);
+            ++pos;
+            continue;
+        }
+        const auto cp = KleinCp(CodepunktLesen(text, pos));
+        if (cp >= 0 && cp < 0x80) {
+            ascii(static_cast<uint64_t>(cp));
+            continue;
+        }
+        if (gesammelt > 0) {
+            mischen(wort);
+            wort = 0;
+            gesammelt = 0;
+        }
+        mischen((uint64_t(1) << 63) | static_cast<uint32_t>(cp));
+    }
+    if (gesammelt > 0) mischen(wort);
+    // Abschluss, damit auch die unteren Bits von allen Zeichen abhängen (Tabellenplätze).
+    h ^= h >> 33;
+    h *= 0xFF51AFD7ED558CCDull;
+    h ^= h >> 33;
+    return h;
+}
 
 int32_t InStr(int32_t start, std::string_view text, std::string_view suche) {
     if (start < 1 || static_cast<size_t>(start) > text.size() + 1) return 0;

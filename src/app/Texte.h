@@ -35,6 +35,9 @@ bool TexteGleich(std::string_view a, std::string_view b);
 inline bool NamenGleich(std::string_view a, std::string_view b) { return TexteGleich(a, b); }
 // Beginnt text mit anfang, Groß/Klein egal? Ein leerer Anfang passt immer.
 bool BeginntMitText(std::string_view text, std::string_view anfang);
+// Streuwert passend zu TexteGleich/NamenGleich: gleiche Texte geben gleiche Werte. Für
+// Nachschlagetabellen, die sonst jeden Pfad mit jedem vergleichen müssten.
+uint64_t NamenStreuwert(std::string_view text);
 // InStr: erste Fundstelle von suche in text ab Byte-Position start (1-basiert), 0 = keine.
 // Leere Suche findet start (wenn start <= Länge + 1).
 int32_t InStr(int32_t start, std::string_view text, std::string_view suche);

@@ -8,6 +8,7 @@ extern const Befehl BefehlSettings;
 // Mediendateien
 extern const Befehl BefehlInfo, BefehlTag, BefehlUntag;
 // Aufnahme
+extern const Befehl BefehlAdd, BefehlImport, BefehlScan, BefehlTypes;
 // Suche
 extern const Befehl BefehlSearch, BefehlSort, BefehlComplete;
 
@@ -20,6 +21,7 @@ const std::vector<Befehl>& AlleBefehle() {
         // Mediendateien
         BefehlInfo, BefehlTag, BefehlUntag,
         // Aufnahme
+        BefehlAdd, BefehlImport, BefehlScan, BefehlTypes,
         // Suche
         BefehlSearch, BefehlSort, BefehlComplete,
     };

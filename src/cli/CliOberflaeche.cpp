@@ -46,8 +46,10 @@ void CliOberfläche::FortschrittDarstellen(const FortschrittAnsicht& a) {
     letzteBreite_ = breite;
 }
 
-NichtVerfügbarAntwort CliOberfläche::DateiNichtVerfügbar(const std::string& pfad, const std::string&) {
-    std::fprintf(stderr, "Datei nicht verfügbar: %s (übersprungen)\n", pfad.c_str());
+NichtVerfügbarAntwort CliOberfläche::DateiNichtVerfügbar(const std::string&, const std::string& text,
+                                                          const std::function<bool()>&) {
+    // Niemand kann einen Datenträger einlegen: die Datei wird übersprungen.
+    std::fprintf(stderr, "%s\n→ Überspringen\n", text.c_str());
     return NichtVerfügbarAntwort::Überspringen;
 }
 

@@ -11,7 +11,8 @@ public:
     void TitelNachrichtZeigen(const std::string& text, int32_t verzögerungMs) override;
     void EreignisseVerarbeiten() override {}
     void FortschrittDarstellen(const FortschrittAnsicht& ansicht) override;
-    NichtVerfügbarAntwort DateiNichtVerfügbar(const std::string& pfad, const std::string& medium) override;
+    NichtVerfügbarAntwort DateiNichtVerfügbar(const std::string& pfad, const std::string& text,
+                                              const std::function<bool()>& dateiDa) override;
     bool NamenEingeben(const std::string& titel, const std::string& knopf, std::string& text, int32_t,
                        int32_t) override;
     bool OrdnerWählen(const std::string& titel, std::string& ordner) override;

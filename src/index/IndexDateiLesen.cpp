@@ -150,7 +150,9 @@ void LückenFüllen(Kartei& k, int format) {
             gestartet = true;
         }
         if (!FortschrittZeigen(k, i, k.DateiPfade[i])) break;
-        const int16_t antwort = DateiNichtVerfügbarPrüfen(k, i, true, false);
+        // 0 heißt hier "lesbar": eine fehlende Datei auf fester Platte wird übergangen, nicht
+        // als leerer Datensatz mit dem Tagesdatum nachgelesen.
+        const int16_t antwort = DateiNichtVerfügbarPrüfen(k, i, true, true);
         if (antwort == 2) break;
         if (antwort != 0) continue;
         k.DateiDaten[i] = MedienInfosLesen(k, k.DateiPfade[i], d, voll ? tagsVoll : "00", false, kopf, kopf);

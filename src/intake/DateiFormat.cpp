@@ -25,9 +25,9 @@ bool DateiFormatUnterstützt(Kartei& k, const std::string& datei, bool keineVide
         }
         if (nurFreigegebene && eintrag.back() == '0') return false;
         const std::string klasse = o.DateitypKlasse.GültigerIndex(i) ? o.DateitypKlasse[i] : "";
-        const bool eins = KlasseHat(klasse, 1);
-        if (eins && keineAudios) return false;
-        if (KlasseHat(klasse, 2) && ((!eins && keineVideos) || keineAudios)) return false;
+        if (KlasseHat(klasse, 1) && keineAudios) return false;
+        const bool ersteNull = !klasse.empty() && klasse[0] == '0';
+        if (KlasseHat(klasse, 2) && ((ersteNull && keineVideos) || keineAudios)) return false;
         if (KlasseHat(klasse, 3) && (keineBilder || keineVideos)) return false;
         return true;
     }

@@ -110,12 +110,9 @@ void GuiOberfläche::FortschrittDarstellen(const FortschrittAnsicht& ansicht) {
     }
 }
 
-NichtVerfügbarAntwort GuiOberfläche::DateiNichtVerfügbar(const std::string& pfad, const std::string& medium) {
-    // Vorläufiger Text, bis die Prüfung im Kern ihn mitliefert.
-    std::string text = "Die Datei '" + pfad + "' ist zurzeit nicht verfügbar.\n";
-    text += medium.empty() ? std::string("Bitte stellen Sie die Verfügbarkeit des Datenträgers sicher.")
-                           : "Bitte legen Sie den Datenträger '" + medium + "' ein.";
-    frmDateiNichtVerfügbar dialog(Besitzer(), text, pfad);
+NichtVerfügbarAntwort GuiOberfläche::DateiNichtVerfügbar(const std::string&, const std::string& text,
+                                                         const std::function<bool()>& dateiDa) {
+    frmDateiNichtVerfügbar dialog(Besitzer(), text, dateiDa);
     DialogAusführen(dialog);
     return dialog.DateiNichtVerfügbarAuswahl;
 }

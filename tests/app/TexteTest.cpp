@@ -105,3 +105,20 @@ TEST(Texte, Utf16ZuUtf8) {
     EXPECT_EQ(Utf16ZuUtf8("\x3D\xD8" "A\0"s, false), "\xEF\xBF\xBD" "A");    // einzelne Hälfte
     EXPECT_EQ(Utf16ZuUtf8("A\0B"s, false), "A");                               // Restbyte entfällt
 }
+
+TEST(Texte, NamenStreuwertFolgtNamenGleich) {
+    // Paare, die NamenGleich gleich nennt, an allen Stellen der Achter-Blöcke; das Kelvin-Zeichen
+    // wird zu ASCII "k" und muss wie eines zählen.
+    const std::vector<std::pair<std::string, std::string>> gleich = {
+        {"/Musik/Die Ärzte/Lied.MP3", "/musik/die ärzte/lied.mp3"},
+        {"\u212Aabcdefgh", "kABCDEFGH"},
+        {"abcdefg\u212Aabcdefgh", "ABCDEFGKabcdefgh"},
+        {"abc\xFF" "defghijk", "ABC\xFF" "DEFGHIJK"},
+        {"", ""}};
+    for (const auto& [a, b] : gleich) {
+        ASSERT_TRUE(NamenGleich(a, b)) << a;
+        EXPECT_EQ(NamenStreuwert(a), NamenStreuwert(b)) << a;
+    }
+    EXPECT_NE(NamenStreuwert("/musik/a.mp3"), NamenStreuwert("/musik/b.mp3"));
+    EXPECT_NE(NamenStreuwert("abcdefgh"), NamenStreuwert("abcdefghi"));
+}

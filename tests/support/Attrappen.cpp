@@ -20,7 +20,11 @@ void TestOberfläche::EreignisseVerarbeiten() {
     if (beiEreignissen) beiEreignissen();
 }
 
-NichtVerfügbarAntwort TestOberfläche::DateiNichtVerfügbar(const std::string& pfad, const std::string&) {
+NichtVerfügbarAntwort TestOberfläche::DateiNichtVerfügbar(const std::string& pfad, const std::string& text,
+                                                           const std::function<bool()>& dateiDa) {
+    nichtVerfügbarFragen.push_back({pfad, text});
+    if (währendNichtVerfügbar) währendNichtVerfügbar();
+    if (dateiDa && dateiDa()) return NichtVerfügbarAntwort::Weiter;
     if (nichtVerfügbarAntworten.empty()) {
         ADD_FAILURE() << "Ungeplante Frage: Datei nicht verfügbar " << pfad;
         return NichtVerfügbarAntwort::Abbrechen;

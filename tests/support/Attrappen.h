@@ -22,6 +22,14 @@ public:
     // Skript: Antworten auf Meldungen mit Knöpfen (Ja/Nein/Abbrechen), in Reihenfolge.
     std::deque<int> antworten;
     std::deque<NichtVerfügbarAntwort> nichtVerfügbarAntworten;
+    // Jede Frage "Datei nicht verfügbar" mit Pfad und Hinweistext.
+    struct NichtVerfügbarFrage {
+        std::string pfad, text;
+    };
+    std::vector<NichtVerfügbarFrage> nichtVerfügbarFragen;
+    // Läuft, während die Frage offen ist (etwa: den Datenträger "einlegen"). Ist die Datei danach
+    // da, endet die Frage von selbst mit Weiter, ohne eine Antwort aus dem Skript zu nehmen.
+    std::function<void()> währendNichtVerfügbar;
     std::deque<std::string> namen;    // Antworten auf NamenEingeben ("" am Anfang = Abbrechen mit "\x01")
     std::deque<std::string> ordner;
     std::deque<std::vector<std::string>> dateiListen;
@@ -37,7 +45,8 @@ public:
     void TitelNachrichtZeigen(const std::string& text, int32_t) override { titelTexte.push_back(text); }
     void EreignisseVerarbeiten() override;
     void FortschrittDarstellen(const FortschrittAnsicht& a) override { fortschritte.push_back(a); }
-    NichtVerfügbarAntwort DateiNichtVerfügbar(const std::string& pfad, const std::string& medium) override;
+    NichtVerfügbarAntwort DateiNichtVerfügbar(const std::string& pfad, const std::string& text,
+                                              const std::function<bool()>& dateiDa) override;
     bool NamenEingeben(const std::string&, const std::string&, std::string& text, int32_t, int32_t) override;
     bool OrdnerWählen(const std::string&, std::string& ordner) override;
     bool DateienWählen(const std::string&, const std::string&, std::vector<std::string>& dateien) override;

@@ -76,7 +76,9 @@ void DialogeTest::DateiNichtVerfuegbarSchliesstSichSelbst() {
         DateiSchreiben(pfad, "x");  // der Datenträger kommt
         QTRY_VERIFY_WITH_TIMEOUT(!d.isVisible(), 5000);
     };
-    QCOMPARE(u.ui.DateiNichtVerfügbar(pfad, "CD1"), NichtVerfügbarAntwort::Weiter);
+    QCOMPARE(u.ui.DateiNichtVerfügbar(pfad, "Die Datei '" + pfad + "' ist zurzeit nicht verfügbar.",
+                                      [&] { return DoesExist(pfad); }),
+             NichtVerfügbarAntwort::Weiter);
     QVERIFY(gesehen);
 }
 
@@ -88,10 +90,10 @@ void DialogeTest::DateiNichtVerfuegbarKnoepfe() {
         {"cmdAbbrechen", NichtVerfügbarAntwort::Abbrechen}};
     for (const auto& [knopf, antwort] : fälle) {
         u.ui.dialogSkript = [knopf = knopf](QDialog& d) { QVERIFY(Drücken(d, knopf)); };
-        QCOMPARE(u.ui.DateiNichtVerfügbar("/gibt/es/nicht.mp3", ""), antwort);
+        QCOMPARE(u.ui.DateiNichtVerfügbar("/gibt/es/nicht.mp3", "x", [] { return false; }), antwort);
     }
     u.ui.dialogSkript = [](QDialog&) {};  // einfach geschlossen: Vorgang abbrechen
-    QCOMPARE(u.ui.DateiNichtVerfügbar("/gibt/es/nicht.mp3", ""), NichtVerfügbarAntwort::Abbrechen);
+    QCOMPARE(u.ui.DateiNichtVerfügbar("/gibt/es/nicht.mp3", "x", nullptr), NichtVerfügbarAntwort::Abbrechen);
 }
 
 void DialogeTest::BeendenMerktSichDieWahl() {

@@ -9,6 +9,7 @@
 #include "search/Ergebnisliste.h"
 #include "settings/EinstellungenSpeicher.h"
 #include "shell/Fortschritt.h"
+#include "support/MpegDaten.h"
 #include "support/TestOrdner.h"
 #include "ui/Programmstart.h"
 #include "ui/SongListe.h"
@@ -16,6 +17,9 @@
 #include "UiTestHilfen.h"
 
 #include <QComboBox>
+#include <QDropEvent>
+#include <QMimeData>
+#include <QUrl>
 #include <QHeaderView>
 #include <QMenu>
 #include <QLabel>
@@ -131,6 +135,7 @@ private slots:
     void TippenSortierenWaehlenEntfernen();
     void FeldsucheMitVorschlaegenUndErgaenzung();
     void KontextmenueUndAuswahlhelfer();
+    void OrdnerHinzufuegenAblegenZiehen();
 
 private:
     std::unique_ptr<QTemporaryDir> xdg_;
@@ -442,6 +447,61 @@ void FensterTest::KontextmenueUndAuswahlhelfer() {
     w.f->BefehlAusführen(QStringLiteral("cmdUmbenennen"));
     QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht verfügbar."));
     QCOMPARE(w.meldungen.back().schalter, Meldung::Information);
+}
+
+// Ein Ordner mit MP3-Dateien (ID3v1, Byte für Byte gebaut), ein Bild, ein Unterordner.
+void FensterTest::OrdnerHinzufuegenAblegenZiehen() {
+    TestOrdner musik, draußen;
+    auto mp3 = [](const std::string& pfad, const char* titel, const char* interpret) {
+        std::string daten;
+        for (int i = 0; i < 12; ++i) daten += mpeg::Frame(mpeg::Kopf{});
+        DateiSchreiben(pfad, daten + mpeg::Id3v1(titel, interpret, "Platte", "2001", "", 1, 17));
+    };
+    mp3(musik / "01 Ein Tag.mp3", "Ein Tag", "Band A");
+    mp3(musik / "02 Nacht.mp3", "Nacht", "Chor");
+    mp3(musik / "unter/03 Abend.mp3", "Abend", "Chor");
+    DateiSchreiben(musik / "bild.jpg", "kein Bild");  // Typ nicht freigegeben
+    mp3(draußen / "04 Morgen.mp3", "Morgen", "Band C");
+
+    Fenster w;
+    w.k.E.TippsAktueller = 0;
+    w.Starten();
+    w.skripte[QStringLiteral("frmHinzufügen")] = [](QDialog& d) { QVERIFY(Drücken(d, "cmdOrdnerHinzufügen")); };
+    w.ui.ordnerSkript = [&](std::string& ordner) {
+        ordner = musik.Pfad();
+        return true;
+    };
+    w.f->BefehlAusführen(QStringLiteral("cmdIndexErstellen"));
+    QCOMPARE(w.k.DateiAnzahl, 3);
+    QCOMPARE(w.Zeilen(), 3);
+    QVERIFY(w.k.DateiGeändert);
+    auto* liste = w.f->lstSongs();
+    QCOMPARE(Spalte(liste, 2), (QStringList{QStringLiteral("Ein Tag"), QStringLiteral("Nacht"), QStringLiteral("Abend")}));
+    QCOMPARE(w.Text("lblDateiAnzahl"), QStringLiteral("3 Datei(en) gefunden\n3 Datei(en) im Index"));
+    QCOMPARE(w.Text("lblIndexdateiUntertitel1"), QStringLiteral("Es wurden 3 Dateien gewählt."));  // die neuen
+    QTRY_VERIFY_WITH_TIMEOUT(w.f->windowTitle().startsWith(QStringLiteral("3 Datei(en) hinzugefügt")), 3000);
+
+    // Die eigene Auswahl auf die Liste gezogen: abgelehnt. Eine Datei von draußen: aufgenommen.
+    auto ablegen = [&](const QList<QUrl>& urls) {
+        QMimeData daten;
+        daten.setUrls(urls);
+        const QPoint stelle = liste->viewport()->rect().center();
+        QDragEnterEvent betreten(stelle, Qt::CopyAction, &daten, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(liste->viewport(), &betreten);
+        if (!betreten.isAccepted()) return false;
+        QDropEvent ablage(stelle, Qt::CopyAction, &daten, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(liste->viewport(), &ablage);
+        return ablage.isAccepted();
+    };
+    QList<QUrl> eigene;
+    for (const char* d : {"01 Ein Tag.mp3", "02 Nacht.mp3", "unter/03 Abend.mp3"})
+        eigene << QUrl::fromLocalFile(QString::fromStdString(musik / d));
+    QVERIFY(!ablegen(eigene));
+    QVERIFY(ablegen({QUrl::fromLocalFile(QString::fromStdString(draußen / "04 Morgen.mp3"))}));
+    QTRY_COMPARE_WITH_TIMEOUT(w.k.DateiAnzahl, 4, 3000);
+    QCOMPARE(w.Zeilen(), 4);
+    QCOMPARE(w.k.Suche.AusgewähltAnzahl, 1);  // die neue Zeile ist markiert
+    QCOMPARE(w.Text("lblIndexdateiUntertitel1"), QStringLiteral("04 Morgen.mp3"));
 }
 
 #include "FensterTest.moc"

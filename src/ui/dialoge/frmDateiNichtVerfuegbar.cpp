@@ -1,6 +1,5 @@
 #include "ui/dialoge/frmDateiNichtVerfuegbar.h"
 
-#include "app/Pfade.h"
 #include "ui/Umrechnung.h"
 
 #include <QHBoxLayout>
@@ -11,8 +10,8 @@
 #include <QVBoxLayout>
 
 frmDateiNichtVerfügbar::frmDateiNichtVerfügbar(QWidget* besitzer, const std::string& text,
-                                               const std::string& DateiNichtVerfügbarDatei)
-    : QDialog(besitzer), DateiNichtVerfügbarDatei_(DateiNichtVerfügbarDatei) {
+                                               std::function<bool()> dateiDa)
+    : QDialog(besitzer), dateiDa_(std::move(dateiDa)) {
     setObjectName(QStringLiteral("frmDateiNichtVerfügbar"));
     setWindowTitle(QStringLiteral("Datei nicht verfügbar"));
     auto* symbol = new QLabel(this);
@@ -61,7 +60,7 @@ void frmDateiNichtVerfügbar::Wählen(NichtVerfügbarAntwort antwort) {
 }
 
 void frmDateiNichtVerfügbar::tmrDateiSuchen_Timer() {
-    if (DoesExist(DateiNichtVerfügbarDatei_)) {
+    if (dateiDa_ && dateiDa_()) {
         Wählen(NichtVerfügbarAntwort::Weiter);
         return;
     }

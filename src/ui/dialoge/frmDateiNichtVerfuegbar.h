@@ -5,13 +5,15 @@
 
 #include <QDialog>
 
+#include <functional>
 #include <string>
 
 class QTimer;
 
 class frmDateiNichtVerfügbar final : public QDialog {
 public:
-    frmDateiNichtVerfügbar(QWidget* besitzer, const std::string& text, const std::string& DateiNichtVerfügbarDatei);
+    // dateiDa: ist die gesuchte Datei inzwischen erschienen? (DateiNichtVerfügbarDatei)
+    frmDateiNichtVerfügbar(QWidget* besitzer, const std::string& text, std::function<bool()> dateiDa);
     frmDateiNichtVerfügbar(const frmDateiNichtVerfügbar&) = delete;
     frmDateiNichtVerfügbar& operator=(const frmDateiNichtVerfügbar&) = delete;
 
@@ -22,6 +24,6 @@ private:
     void Wählen(NichtVerfügbarAntwort antwort);
     void tmrDateiSuchen_Timer();
 
-    std::string DateiNichtVerfügbarDatei_;
+    std::function<bool()> dateiDa_;
     QTimer* tmrDateiSuchen_;
 };
