@@ -88,8 +88,9 @@ struct Fenster {
 const char* SpeicherFrage = "Die Indexdatei wurde geändert.";
 
 // Ein Index mit sechs Liedern (ID3v1 gelesen), geschrieben wie vom Programm.
-std::string LiederIndex(const TestOrdner& ordner) {
+std::string LiederIndex(const TestOrdner& ordner, const std::function<void(IndexOptionen&)>& optionen = {}) {
     TestUmgebung u;
+    if (optionen) optionen(u.k.Optionen);
     u.k.E.StartBildschirm = 0;
     const struct {
         const char *datei, *titel, *interpret;
@@ -136,6 +137,8 @@ private slots:
     void FeldsucheMitVorschlaegenUndErgaenzung();
     void KontextmenueUndAuswahlhelfer();
     void OrdnerHinzufuegenAblegenZiehen();
+    void SpaltenAusDenIndexOptionen();
+    void FarbenUndBesuchteBefehle();
 
 private:
     std::unique_ptr<QTemporaryDir> xdg_;
@@ -240,6 +243,9 @@ void FensterTest::SchliessenOhneFrageBeiAutomatischemSpeichern() {
     neu.Starten();
     QCOMPARE(neu.k.E.BeendenReaktion, int16_t{2});
     QCOMPARE(neu.k.E.DateiAutomatischSpeichern, int16_t{1});
+    // Lage und Größe kommen in Twips zurück.
+    QCOMPARE(neu.k.E.FensterWidth, w.k.E.FensterWidth);
+    QCOMPARE(neu.f->width() * 15, w.k.E.FensterWidth);
 }
 
 void FensterTest::AndererIndexUeberDenDateinamen() {
@@ -447,6 +453,52 @@ void FensterTest::KontextmenueUndAuswahlhelfer() {
     w.f->BefehlAusführen(QStringLiteral("cmdUmbenennen"));
     QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht verfügbar."));
     QCOMPARE(w.meldungen.back().schalter, Meldung::Information);
+}
+
+// Kopfleiste, Gitter, die eigene Spalte mit ihrem Muster als Kopf, Breiten in Twips hin und zurück.
+void FensterTest::SpaltenAusDenIndexOptionen() {
+    TestOrdner ordner;
+    Fenster w;
+    w.k.E.TippsAktueller = 0;
+    w.Starten({LiederIndex(ordner, [](IndexOptionen& o) {
+        o.Spalten = "5=3000=1,19=2100=2";
+        o.SpaltenNutzerformat = "%Interpret% (%Titel%)";
+        o.SpaltenGitter = 1;
+        o.SpaltenLeiste = 1;
+    })});
+    QVERIFY(Drücken(*w.f, "cmdSucheLöschen"));
+    auto* liste = w.f->lstSongs();
+    QCOMPARE(liste->model()->columnCount(), 2);
+    QCOMPARE(liste->model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Interpret (Titel)"));
+    QCOMPARE(liste->model()->index(0, 1).data().toString(), QStringLiteral("Band A (Ein Tag)"));
+    QVERIFY(liste->showGrid());
+    QVERIFY(!liste->horizontalHeader()->isHidden());
+    QCOMPARE(liste->horizontalHeader()->sectionSize(0), 200);  // 3000 Twips
+    QCOMPARE(liste->horizontalHeader()->sectionSize(1), 140);
+    // Von Hand breiter und verschoben: die Beschreibung folgt beim Sichern (Twips, neue Reihenfolge).
+    liste->horizontalHeader()->resizeSection(0, 100);
+    liste->horizontalHeader()->moveSection(1, 0);
+    QCOMPARE(liste->model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Interpret (Titel)"));
+    QCOMPARE(liste->model()->index(0, 0).data().toString(), QStringLiteral("Band A (Ein Tag)"));
+    w.k.E.BeendenReaktion = 2;
+    w.antworten = {Meldung::Nein};
+    QVERIFY(w.f->close());
+    QVERIFY(w.k.Optionen.Spalten.find("5=1500=2") != std::string::npos);
+    QVERIFY(w.k.Optionen.Spalten.find("19=2100=1") != std::string::npos);
+    QVERIFY(w.k.DateiGeändert);  // die Beschreibung hat sich geändert
+}
+
+// Befehle in der Farbe der Funktionen (Rot im niedrigsten Byte), nach dem Klick "besucht".
+void FensterTest::FarbenUndBesuchteBefehle() {
+    Fenster w;
+    w.k.E.TippsAktueller = 0;
+    w.Starten();
+    auto* optionen = w.Kind<QLabel>("cmdOptionen");
+    QCOMPARE(optionen->palette().color(QPalette::WindowText), QColor(0, 0, 0xC0));  // 0xC00000
+    QTest::mouseClick(optionen, Qt::LeftButton);
+    QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht verfügbar."));
+    QCOMPARE(optionen->palette().color(QPalette::WindowText), QColor(0x80, 0, 0));  // besucht: 0x000080
+    QCOMPARE(w.Kind<QWidget>("fraLinks1")->palette().color(QPalette::Window), QColor(0xEE, 0xEE, 0xEE));
 }
 
 // Ein Ordner mit MP3-Dateien (ID3v1, Byte für Byte gebaut), ein Bild, ein Unterordner.
