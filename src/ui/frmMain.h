@@ -1,8 +1,9 @@
 #pragma once
 // Das Hauptfenster: links die Befehle, oben Index und Auswahl, die Suche und die Ergebnisliste.
 // Es verdrahtet nur: jede Arbeit tut der Kern. Aufgeteilt auf frmMain.cpp (Aufbau, Anzeige),
-// frmMainBefehle.cpp (Befehle und Menüs), frmMainSuche.cpp (Suchfeld, tmrListe) und
-// frmMainSchliessen.cpp (Schließen, Index wechseln).
+// frmMainBefehle.cpp (Befehle und Menüs), frmMainSuche.cpp (Suchfeld, tmrListe),
+// frmMainAufnahme.cpp (Hinzufügen, Ablegen, Entfernen) und frmMainSchliessen.cpp (Schließen,
+// Index wechseln).
 #include "app/EinsBasiert.h"
 #include "shell/TitelNachricht.h"
 
@@ -71,17 +72,18 @@ private:
     void tmrScrollUpdate_Timer();
 
     // Befehle (frmMainBefehle.cpp)
-    void cmdIndexErstellen_Click();
-    void cmdDateiEntfernen_Click();
     void cmdAuswählen_Click();
     void lstSongs_DblClick();
     void lstSongs_KontextMenü(const QPoint& global);
     void MenüZustandSetzen(bool NurTitel);
     void Auswahlhelfer(void (*helfer)(struct Ergebnisliste&));
     void SongSucheAusführen(int art);
-    void lblIndexdatei_Click();
-    void DateienFallengelassen(const QStringList& pfade);
     void AuswahlAktualisierenUndZeigen();
+
+    // Aufnahme (frmMainAufnahme.cpp)
+    void cmdIndexErstellen_Click();
+    void DateienFallengelassen(const QStringList& pfade);
+    void cmdDateiEntfernen_Click();
 
     // Suche (frmMainSuche.cpp)
     // Die Auswahl, wie AuswahlAktualisieren sie aus der Liste liest.
@@ -102,6 +104,7 @@ private:
 
     // Schließen (frmMainSchliessen.cpp)
     void FensterLageSpeichern();
+    void lblIndexdatei_Click();
 
     Kartei& k_;
     GuiOberfläche& ui_;
@@ -125,15 +128,13 @@ private:
     QMenu* mnu_wähle_ = nullptr;
     QMenu* mnu_songkontext_ = nullptr;
 
-    QTimer* tmrListe_;         // 600 ms, einmalig, startet nicht neu
-    QTimer* tmrTimer1_;        // Titel tippen und halten
-    QTimer* tmrTimer2_;        // Wartezeit vor dem Titel
-    QTimer* tmrScrollUpdate_;  // 500 ms: regelmäßiges Speichern
-    QTimer* auswahlTimer_;     // fasst viele Auswahländerungen zu einer Anzeige zusammen
+    QTimer* tmrListe_ = nullptr;         // 600 ms, einmalig, startet nicht neu
+    QTimer* tmrTimer1_ = nullptr;        // Titel tippen und halten
+    QTimer* tmrTimer2_ = nullptr;        // Wartezeit vor dem Titel
+    QTimer* tmrScrollUpdate_ = nullptr;  // 500 ms: regelmäßiges Speichern
+    QTimer* auswahlTimer_ = nullptr;     // fasst viele Auswahländerungen zu einer Anzeige zusammen
     TitelAnimation titel_;
     bool gesperrt_ = false;
     bool indexGeladen_ = false;
-    bool endeErzwungen_ = false;
-    EinsBasiert<int32_t> übergangAuswahl_;  // ÜBERGANG bis die Suche da ist
-    int32_t übergangAnzahl_ = 0;  // Tag "1": das Menü des Infobereichs beendet
+    bool endeErzwungen_ = false;  // Tag "1": das Menü des Infobereichs will das Ende
 };

@@ -6,6 +6,7 @@
 
 int DialogeTestAusführen(int argc, char** argv);
 int FensterTestAusführen(int argc, char** argv);
+int ListeTestAusführen(int argc, char** argv);
 
 int main(int argc, char** argv) {
     QTemporaryDir xdg;
@@ -19,5 +20,6 @@ int main(int argc, char** argv) {
     QApplication app(argc, argv);
     int fehler = DialogeTestAusführen(argc, argv);
     fehler += FensterTestAusführen(argc, argv);
+    fehler += ListeTestAusführen(argc, argv);
     return fehler;
 }
