@@ -2,7 +2,9 @@
 
 #include "app/Kartei.h"
 #include "app/Start.h"
+#include "search/ListeErstellen.h"
 #include "search/Suchbegriffe.h"
+#include "search/SuchZustand.h"
 #include "shell/Fortschritt.h"
 #include "shell/Tipps.h"
 #include "ui/GuiOberflaeche.h"
@@ -35,14 +37,24 @@ void FensterStarten(Kartei& k, frmMain& fenster, GuiOberfläche& ui) {
 void VorführungStarten(Kartei& k, frmMain& fenster) {
     const QByteArray was = qgetenv("KLANGKARTEI_ZEIGEN");
     if (was == "fortschritt") {
-        QTimer::singleShot(300, &fenster, [&k] {
+        QTimer::singleShot(300, &fenster, [&k, &fenster] {
+            fenster.BefehlAusführen(QStringLiteral("cmdSucheLöschen"));
             FortschrittZeigenStarten(k, 1000, true, true, true, "Füge gefundene Dateien hinzu");
             FortschrittZeigen(k, 420, "/home/anna/Musik/Calexico/Feast of Wire/07 - Not Even Stevie Nicks.mp3");
         });
     } else if (was == "liste") {
-        QTimer::singleShot(300, &fenster, [&fenster] { fenster.BefehlAusführen(QStringLiteral("cmdSucheLöschen")); });
+        QTimer::singleShot(300, &fenster, [&k, &fenster] {
+            fenster.BefehlAusführen(QStringLiteral("cmdSucheLöschen"));
+            auto& zeilen = k.Liste.lstSongs.zeilen;
+            if (zeilen.size() > 2) zeilen[2].ausgewählt = true;  // eine Zeile gewählt: Beschreibung und Befehle
+            k.Liste.lstSongs.Geändert();
+            AuswahlAktualisieren(k, k.Liste.lstSongs);
+            fenster.ListeAnzeigen();
+            fenster.AuswahlBeschreibungAnzeigen();
+        });
     } else if (was == "sucheerweitert") {
         QTimer::singleShot(300, &fenster, [&k, &fenster] {
+            fenster.BefehlAusführen(QStringLiteral("cmdSucheLöschen"));
             SuchbegriffeZurücksetzen(k.Suche);
             SuchbegriffeHinzufügen(k.Suche, "Calexico", "Interpret", "00");
             SuchbegriffeHinzufügen(k.Suche, "live", "Titel", "11");
