@@ -6,7 +6,7 @@
 #include "search/Suche.h"
 
 void DateienAusListeEntfernenStarten(Kartei& k, const EinsBasiert<int32_t>& Liste) {
-    const int32_t entfernt = EinträgeEntfernen(k, Liste);
+    [[maybe_unused]] const int32_t entfernt = EinträgeEntfernen(k, Liste);
     KK_TRACE("DateienAusListeEntfernenStarten", std::to_string(entfernt) + " Einträge entfernt");
     // Die Auswahl zeigte auf Einträge, die es so nicht mehr gibt.
     auto& s = k.Suche;

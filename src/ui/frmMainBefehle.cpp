@@ -156,6 +156,7 @@ void frmMain::cmdAuswählen_Click() {
 }
 
 void frmMain::MenüZustandSetzen(bool NurTitel) {
+    AuswahlAktualisieren();
     const MenüZustand m = MenüAktualisieren(k_, NurTitel, AusgewählteDateien(), AusgewähltAnzahl());
     const std::pair<const char*, bool> einträge[] = {
         {"mnu_song_mitdiesemnamen", m.mnu_song_mitdiesemnamen},
