@@ -1,28 +1,45 @@
 #include "ui/GuiOberflaeche.h"
 
 #include "app/Kartei.h"
+#include "ui/Umrechnung.h"
+#include "ui/dialoge/frmDateiNichtVerfuegbar.h"
+#include "ui/dialoge/frmFortschritt.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDialog>
 #include <QFileDialog>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
-#include <QTimer>
-#include <QVBoxLayout>
 #include <QInputDialog>
 #include <QMessageBox>
 
 namespace {
-QString Q(const std::string& s) { return QString::fromStdString(s); }
-// Antworten als Dialog-Ergebnis über Accepted/Rejected, damit Weiter (0) nicht Rejected ist.
-constexpr int kAntwortBasis = 10;
+// "Name|*.a;*.b|Name2|*.c" → "Name (*.a *.b);;Name2 (*.c)"
+QString QtFilter(const std::string& filter) {
+    const QStringList teile = Q(filter).split(QLatin1Char('|'));
+    QStringList qtFilter;
+    for (qsizetype i = 0; i + 1 < teile.size(); i += 2) {
+        QString muster = teile[i + 1];
+        muster.replace(QLatin1Char(';'), QLatin1Char(' '));
+        // Qt liest die Muster aus der letzten Klammer; die im Namen hat Kommas statt Leerzeichen.
+        qtFilter << teile[i] + QStringLiteral(" (") + muster + QLatin1Char(')');
+    }
+    return qtFilter.join(QStringLiteral(";;"));
+}
+
+void KnopfBeschriften(QMessageBox& box, QMessageBox::StandardButton knopf, const char* text) {
+    if (auto* b = box.button(knopf)) b->setText(QString::fromUtf8(text));
+}
 }  // namespace
+
+GuiOberfläche::GuiOberfläche(std::function<QWidget*()> besitzer) : besitzer_(std::move(besitzer)) {
+    ereignisUhr_.start();
+}
+
+GuiOberfläche::~GuiOberfläche() { delete fortschritt_.data(); }
 
 int GuiOberfläche::MeldungZeigen(const std::string& text, int schalter) {
     using namespace Meldung;
-    QMessageBox box(besitzer_ ? besitzer_() : nullptr);
+    if (meldungsSkript) return meldungsSkript(text, schalter);
+    QMessageBox box(Besitzer());
     box.setWindowTitle(QString::fromUtf8(ProgrammTitel));
     box.setText(Q(text));
     QMessageBox::Icon symbol = QMessageBox::Warning;
@@ -31,21 +48,29 @@ int GuiOberfläche::MeldungZeigen(const std::string& text, int schalter) {
     switch (schalter) {
     case Information: symbol = QMessageBox::Information; break;
     case JaNeinAusruf: knöpfe = QMessageBox::Yes | QMessageBox::No; vorgabe = QMessageBox::Yes; break;
-    case JaNeinFrage: symbol = QMessageBox::Question; knöpfe = QMessageBox::Yes | QMessageBox::No; vorgabe = QMessageBox::Yes; break;
+    case JaNeinFrage:
+        symbol = QMessageBox::Question;
+        knöpfe = QMessageBox::Yes | QMessageBox::No;
+        vorgabe = QMessageBox::Yes;
+        break;
     case JaNeinAbbrechen:
         symbol = QMessageBox::Question;
         knöpfe = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
         vorgabe = QMessageBox::Yes;
         break;
-    case JaNeinStopp: symbol = QMessageBox::Critical; knöpfe = QMessageBox::Yes | QMessageBox::No; vorgabe = QMessageBox::No; break;
+    case JaNeinStopp:
+        symbol = QMessageBox::Critical;
+        knöpfe = QMessageBox::Yes | QMessageBox::No;
+        vorgabe = QMessageBox::No;
+        break;
     default: break;
     }
     box.setIcon(symbol);
     box.setStandardButtons(knöpfe);
     box.setDefaultButton(vorgabe);
-    if (auto* b = box.button(QMessageBox::Yes)) b->setText(QStringLiteral("&Ja"));
-    if (auto* b = box.button(QMessageBox::No)) b->setText(QStringLiteral("&Nein"));
-    if (auto* b = box.button(QMessageBox::Cancel)) b->setText(QStringLiteral("Abbrechen"));
+    KnopfBeschriften(box, QMessageBox::Yes, "&Ja");
+    KnopfBeschriften(box, QMessageBox::No, "&Nein");
+    KnopfBeschriften(box, QMessageBox::Cancel, "Abbrechen");
     switch (box.exec()) {
     case QMessageBox::Yes: return Ja;
     case QMessageBox::No: return Nein;
@@ -58,71 +83,98 @@ void GuiOberfläche::TitelNachrichtZeigen(const std::string& text, int32_t verz�
     if (titelNachricht) titelNachricht(text, verzögerungMs);
 }
 
-void GuiOberfläche::EreignisseVerarbeiten() { QApplication::processEvents(); }
-
-void GuiOberfläche::FortschrittDarstellen(const FortschrittAnsicht& ansicht) {
-    if (fortschritt) fortschritt(ansicht);
+void GuiOberfläche::EreignisseVerarbeiten() {
+    // Schleifen über 100.000 Einträge melden sich bei jedem Eintrag; die Ereignisschleife
+    // genügt alle 30 ms, damit Abbrechen und Neuzeichnen ankommen.
+    if (ereignisUhr_.elapsed() < 30) return;
+    QApplication::processEvents();
+    ereignisUhr_.restart();
 }
 
-// VORLÄUFIG: schlichter Dialog, bis frmDateiNichtVerfügbar mit dem Hauptfenster kommt.
+void GuiOberfläche::FortschrittDarstellen(const FortschrittAnsicht& ansicht) {
+    if (!fortschritt_) {
+        if (!ansicht.offen) return;
+        fortschritt_ = new frmFortschritt(Besitzer());
+        fortschritt_->abbrechen = [this] {
+            if (fortschrittAbbrechen) fortschrittAbbrechen();
+        };
+    }
+    const bool warOffen = fortschritt_->isVisible();
+    if (ansicht.offen && !warOffen && besitzerSperren) besitzerSperren(true);
+    fortschritt_->Darstellen(ansicht);
+    if (!ansicht.offen && warOffen && besitzerSperren) besitzerSperren(false);
+    // Das Öffnen und Schließen soll man sehen, auch wenn die Schleife gleich weiterrechnet.
+    if (ansicht.offen != warOffen) {
+        QApplication::processEvents();
+        ereignisUhr_.restart();
+    }
+}
+
 NichtVerfügbarAntwort GuiOberfläche::DateiNichtVerfügbar(const std::string&, const std::string& text,
                                                          const std::function<bool()>& dateiDa) {
-    QDialog dialog(besitzer_ ? besitzer_() : nullptr);
-    dialog.setWindowTitle(QStringLiteral("Datei nicht verfügbar"));
-    auto* spalte = new QVBoxLayout(&dialog);
-    auto* lblText = new QLabel(Q(text));
-    lblText->setWordWrap(true);
-    spalte->addWidget(lblText);
-    auto* knöpfe = new QHBoxLayout;
-    spalte->addLayout(knöpfe);
-    const auto knopf = [&](const char* beschriftung, NichtVerfügbarAntwort antwort) {
-        auto* b = new QPushButton(QString::fromUtf8(beschriftung));
-        knöpfe->addWidget(b);
-        QObject::connect(b, &QPushButton::clicked, &dialog, [&dialog, antwort] { dialog.done(kAntwortBasis + int(antwort)); });
-    };
-    knopf("Ü&berspringen", NichtVerfügbarAntwort::Überspringen);
-    knopf("&Alle überspringen", NichtVerfügbarAntwort::AlleÜberspringen);
-    knopf("Vorgang abbrechen", NichtVerfügbarAntwort::Abbrechen);
-    // tmrDateiSuchen: während der Prüfung aus, damit ein langsames Laufwerk keine Ticks anstaut.
-    QTimer tmrDateiSuchen;
-    tmrDateiSuchen.setSingleShot(true);
-    QObject::connect(&tmrDateiSuchen, &QTimer::timeout, &dialog, [&] {
-        if (dateiDa && dateiDa()) dialog.done(kAntwortBasis + int(NichtVerfügbarAntwort::Weiter));
-        else tmrDateiSuchen.start(1000);
-    });
-    tmrDateiSuchen.start(1000);
-    // Schließen über die Titelleiste (Rejected) zählt wie "Vorgang abbrechen".
-    const int ergebnis = dialog.exec() - kAntwortBasis;
-    if (ergebnis < 0 || ergebnis > int(NichtVerfügbarAntwort::AlleÜberspringen)) return NichtVerfügbarAntwort::Abbrechen;
-    return static_cast<NichtVerfügbarAntwort>(ergebnis);
+    frmDateiNichtVerfügbar dialog(Besitzer(), text, dateiDa);
+    DialogAusführen(dialog);
+    return dialog.DateiNichtVerfügbarAuswahl;
 }
 
 bool GuiOberfläche::NamenEingeben(const std::string& titel, const std::string&, std::string& text, int32_t,
                                   int32_t) {
     bool ok = false;
-    QString neu = QInputDialog::getText(besitzer_ ? besitzer_() : nullptr, Q(titel), QString(), QLineEdit::Normal,
-                                        Q(text), &ok);
-    if (ok) text = neu.toStdString();
+    QString neu = QInputDialog::getText(Besitzer(), Q(titel), QString(), QLineEdit::Normal, Q(text), &ok);
+    if (ok) text = S(neu);
     return ok;
 }
 
 bool GuiOberfläche::OrdnerWählen(const std::string& titel, std::string& ordner) {
-    QString neu = QFileDialog::getExistingDirectory(besitzer_ ? besitzer_() : nullptr, Q(titel), Q(ordner));
+    if (ordnerSkript) return ordnerSkript(ordner);
+    QString neu = QFileDialog::getExistingDirectory(Besitzer(), Q(titel), Q(ordner));
     if (neu.isEmpty()) return false;
-    ordner = neu.toStdString();
+    ordner = S(neu);
     return true;
 }
 
 bool GuiOberfläche::DateienWählen(const std::string& titel, const std::string& filter,
                                   std::vector<std::string>& dateien) {
-    // "Name|*.a;*.b|Name2|*.c" → Qt-Filter "Name (*.a *.b);;Name2 (*.c)"
-    QStringList teile = Q(filter).split(QLatin1Char('|'));
-    QStringList qtFilter;
-    for (int i = 0; i + 1 < teile.size(); i += 2)
-        qtFilter << teile[i] + QStringLiteral(" (") + QString(teile[i + 1]).replace(QLatin1Char(';'), QLatin1Char(' ')) + QLatin1Char(')');
-    QStringList gewählt = QFileDialog::getOpenFileNames(besitzer_ ? besitzer_() : nullptr, Q(titel), QString(),
-                                                        qtFilter.join(QStringLiteral(";;")));
     dateien.clear();
-    for (const auto& d : gewählt) dateien.push_back(d.toStdString());
+    if (dateienSkript) return dateienSkript(dateien) && !dateien.empty();
+    const QStringList gewählt = QFileDialog::getOpenFileNames(Besitzer(), Q(titel), QString(), QtFilter(filter));
+    for (const auto& d : gewählt) dateien.push_back(S(d));
     return !dateien.empty();
+}
+
+bool GuiOberfläche::DateiWählen(const std::string& titel, const std::string& filter, const std::string& start,
+                                std::string& datei) {
+    if (dateienSkript) {
+        std::vector<std::string> d;
+        if (!dateienSkript(d) || d.empty()) return false;
+        datei = d.front();
+        return true;
+    }
+    const QString neu = QFileDialog::getOpenFileName(Besitzer(), Q(titel), Q(start), QtFilter(filter));
+    if (neu.isEmpty()) return false;
+    datei = S(neu);
+    return true;
+}
+
+bool GuiOberfläche::DateiZumSpeichernWählen(const std::string& titel, const std::string& filter,
+                                            const std::string& start, std::string& datei) {
+    if (dateienSkript) {
+        std::vector<std::string> d;
+        if (!dateienSkript(d) || d.empty()) return false;
+        datei = d.front();
+        return true;
+    }
+    const QString neu = QFileDialog::getSaveFileName(Besitzer(), Q(titel), Q(start), QtFilter(filter));
+    if (neu.isEmpty()) return false;
+    datei = S(neu);
+    return true;
+}
+
+int GuiOberfläche::DialogAusführen(QDialog& dialog) {
+    if (!dialogSkript) return dialog.exec();
+    dialog.setResult(QDialog::Rejected);
+    dialog.show();
+    dialogSkript(dialog);
+    if (dialog.isVisible()) dialog.reject();
+    return dialog.result();
 }

@@ -1,15 +1,24 @@
 #pragma once
-// Die Oberfläche des Fensterprogramms: echte Meldungsfenster und Dialoge.
+// Die Oberfläche des Fensterprogramms: echte Meldungsfenster und Dialoge. Für Tests lassen sich
+// Meldungen, Dialoge und Dateiauswahl über Skripte beantworten, statt modal zu warten.
 #include "app/Oberflaeche.h"
+
+#include <QElapsedTimer>
+#include <QPointer>
 
 #include <functional>
 
+class QDialog;
 class QWidget;
+class frmFortschritt;
 
 class GuiOberfläche final : public Oberfläche {
 public:
-    // besitzer liefert das Fenster, dem Meldungen gehören (kann nullptr liefern).
-    explicit GuiOberfläche(std::function<QWidget*()> besitzer) : besitzer_(std::move(besitzer)) {}
+    // besitzer liefert das Fenster, dem Meldungen und Dialoge gehören (kann nullptr liefern).
+    explicit GuiOberfläche(std::function<QWidget*()> besitzer);
+    ~GuiOberfläche() override;
+    GuiOberfläche(const GuiOberfläche&) = delete;
+    GuiOberfläche& operator=(const GuiOberfläche&) = delete;
 
     int MeldungZeigen(const std::string& text, int schalter) override;
     void TitelNachrichtZeigen(const std::string& text, int32_t verzögerungMs) override;
@@ -23,10 +32,30 @@ public:
     bool DateienWählen(const std::string& titel, const std::string& filter,
                        std::vector<std::string>& dateien) override;
 
-    // Das Hauptfenster hängt sich hier ein (Titeltexte, Fortschrittsfenster).
+    // Einen Dialog modal zeigen; mit dialogSkript wird er nur gezeigt und dem Skript übergeben.
+    // Ergebnis: QDialog::result() danach.
+    int DialogAusführen(QDialog& dialog);
+    // Eine Datei zum Speichern wählen (Filter wie bei DateienWählen); false = Abbrechen.
+    bool DateiZumSpeichernWählen(const std::string& titel, const std::string& filter, const std::string& start,
+                                 std::string& datei);
+    // Eine vorhandene Datei wählen; false = Abbrechen.
+    bool DateiWählen(const std::string& titel, const std::string& filter, const std::string& start,
+                     std::string& datei);
+    QWidget* Besitzer() const { return besitzer_ ? besitzer_() : nullptr; }
+
+    // Das Hauptfenster hängt sich hier ein.
     std::function<void(const std::string&, int32_t)> titelNachricht;
-    std::function<void(const FortschrittAnsicht&)> fortschritt;
+    std::function<void()> fortschrittAbbrechen;          // Knopf "Abbrechen" des Fortschrittsfensters
+    std::function<void(bool)> besitzerSperren;           // true: Hauptfenster während des Fortschritts sperren
+
+    // --- Skripte für Tests (nicht gesetzt: echte Fenster) ---
+    std::function<int(const std::string& text, int schalter)> meldungsSkript;
+    std::function<void(QDialog&)> dialogSkript;
+    std::function<bool(std::vector<std::string>&)> dateienSkript;  // DateienWählen, DateiWählen, Speichern
+    std::function<bool(std::string&)> ordnerSkript;
 
 private:
     std::function<QWidget*()> besitzer_;
+    QPointer<frmFortschritt> fortschritt_;  // gehört dem Besitzer, sonst uns
+    QElapsedTimer ereignisUhr_;
 };

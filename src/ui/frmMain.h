@@ -1,16 +1,140 @@
 #pragma once
-// Das Hauptfenster.
+// Das Hauptfenster: links die Befehle, oben Index und Auswahl, die Suche und die Ergebnisliste.
+// Es verdrahtet nur: jede Arbeit tut der Kern. Aufgeteilt auf frmMain.cpp (Aufbau, Anzeige),
+// frmMainBefehle.cpp (Befehle und Menüs), frmMainSuche.cpp (Suchfeld, tmrListe),
+// frmMainAufnahme.cpp (Hinzufügen, Ablegen, Entfernen) und frmMainSchliessen.cpp (Schließen,
+// Index wechseln).
+#include "app/EinsBasiert.h"
+#include "shell/TitelNachricht.h"
+
 #include <QMainWindow>
 
+#include <string>
+#include <vector>
+
 struct Kartei;
+class GuiOberfläche;
+class KlickLabel;
+class LinkLabel;
+class LinkeSpalte;
+class QComboBox;
+class QLabel;
+class QMenu;
+class QPushButton;
+class QStringListModel;
+class QTimer;
+class SongListeAnsicht;
 
 class frmMain final : public QMainWindow {
-    Q_OBJECT
 public:
-    explicit frmMain(Kartei& k, QWidget* parent = nullptr);
+    // standardIndex: der Index, den IndexÖffnen bei leerem Dateiname lädt.
+    frmMain(Kartei& k, GuiOberfläche& ui, std::string standardIndex, QWidget* eltern = nullptr);
+    ~frmMain() override;
     frmMain(const frmMain&) = delete;
     frmMain& operator=(const frmMain&) = delete;
 
+    // IndexÖffnen mit den Schritten des Fensters: Suche und Liste an oder aus, Name des Index.
+    bool IndexÖffnen();
+    // Die Farben der Einstellungen auf alle Teile des Fensters.
+    void FarbenAnwenden();
+    // Die Liste zeigt, was der Kern in k.Liste.lstSongs hinterlegt hat.
+    void ListeAnzeigen();
+    void AuswahlBeschreibungAnzeigen();
+    void TitelNachrichtZeigen(const std::string& text, int32_t verzögerungMs);
+    // cboSuche auf den ersten Eintrag, ohne dass eine Suche beginnt (Programmstart).
+    void SucheVorbereiten();
+    // Fokus ins Suchfeld, wenn es eingeschaltet ist.
+    void SuchfeldFokussieren();
+    // tmrScrollUpdate einschalten (Programmstart).
+    void ZeitgeberStarten();
+    // Das Fenster während eines Fortschritts sperren (nur Schließen bleibt verweigert).
+    void Sperren(bool gesperrt);
+    // Zentrieren (erster Start), gespeicherte Lage in Twips anwenden, maximieren; dann zeigen.
+    void FensterLageAnwenden(bool zentrieren, bool geometrie, bool maximieren);
+    // Einen Befehl der linken Spalte ausführen, als wäre er geklickt worden.
+    void BefehlAusführen(const QString& name);
+
+    SongListeAnsicht* lstSongs() const { return lstSongs_; }
+    bool ShiftGedrückt() const;
+
+protected:
+    void closeEvent(QCloseEvent* ereignis) override;
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override;
+
 private:
+    void AufbauOben(QWidget* rechts);
+    void AufbauSuche(QWidget* rechts);
+    void MenüsAufbauen();
+    void Verbinden();
+    void IndexAnzeigen(bool geladen);
+    void TitelSchrittAnwenden(const TitelSchritt& s);
+    void NichtVerfügbar();
+    void tmrScrollUpdate_Timer();
+
+    // Befehle (frmMainBefehle.cpp)
+    void cmdAuswählen_Click();
+    void lstSongs_DblClick();
+    void lstSongs_KontextMenü(const QPoint& global);
+    void MenüZustandSetzen(bool NurTitel);
+    void Auswahlhelfer(void (*helfer)(struct Ergebnisliste&));
+    void SongSucheAusführen(int art);
+    void AuswahlAktualisierenUndZeigen();
+
+    // Aufnahme (frmMainAufnahme.cpp)
+    void cmdIndexErstellen_Click();
+    void DateienFallengelassen(const QStringList& pfade);
+    void cmdDateiEntfernen_Click();
+
+    // Suche (frmMainSuche.cpp)
+    // Die Auswahl, wie AuswahlAktualisieren sie aus der Liste liest.
+    const EinsBasiert<int32_t>& AusgewählteDateien() const;
+    int32_t AusgewähltAnzahl() const;
+    void AuswahlAktualisieren();
+    std::string DateiAnzahlText() const;  // lblDateiAnzahl
+    void VerbindenSuche();
+    void SuchfelderAnzeigen();
+    void SucheNachlauf();
+    void txtSongname_Change(const QString& text);
+    void tmrListe_Timer();
+    void cboSuche_Click(int index);
+    void cmdSucheLöschen_Click();
+    void cmdSucheMehr_Click();
+    void lstSongs_ColumnClick(int spalte);
+    void SucheStarten(int feld, const std::string& text);
+
+    // Schließen (frmMainSchliessen.cpp)
+    void FensterLageSpeichern();
+    void lblIndexdatei_Click();
+
     Kartei& k_;
+    GuiOberfläche& ui_;
+    std::string standardIndex_;
+
+    LinkeSpalte* links_ = nullptr;
+    QLabel* lblProgramm_ = nullptr;
+    LinkLabel* lblIndexdatei_ = nullptr;
+    KlickLabel* lblIndexdateiUntertitel1_ = nullptr;
+    KlickLabel* lblIndexDateiUntertitel2_ = nullptr;
+    QComboBox* cboSuche_ = nullptr;
+    QComboBox* txtSongname_ = nullptr;
+    QPushButton* cmdSucheLöschen_ = nullptr;
+    QPushButton* cmdSucheMehr_ = nullptr;
+    QStringListModel* vorschlagModell_ = nullptr;  // Aufklappliste von txtSongname
+    std::vector<std::string> vorschläge_;          // zuletzt gezeigte Vorschläge
+    bool ausAufklappliste_ = false;                // die Person hat in der Aufklappliste gewählt
+    SongListeAnsicht* lstSongs_ = nullptr;
+
+    QMenu* mnu_kontext_ = nullptr;
+    QMenu* mnu_wähle_ = nullptr;
+    QMenu* mnu_songkontext_ = nullptr;
+
+    QTimer* tmrListe_ = nullptr;         // 600 ms, einmalig, startet nicht neu
+    QTimer* tmrTimer1_ = nullptr;        // Titel tippen und halten
+    QTimer* tmrTimer2_ = nullptr;        // Wartezeit vor dem Titel
+    QTimer* tmrScrollUpdate_ = nullptr;  // 500 ms: regelmäßiges Speichern
+    QTimer* auswahlTimer_ = nullptr;     // fasst viele Auswahländerungen zu einer Anzeige zusammen
+    TitelAnimation titel_;
+    bool gesperrt_ = false;
+    bool indexGeladen_ = false;
+    bool endeErzwungen_ = false;  // Tag "1": das Menü des Infobereichs will das Ende
 };

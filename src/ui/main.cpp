@@ -1,11 +1,14 @@
 // klangkartei: das Fensterprogramm.
 #include "app/Kartei.h"
+#include "app/Start.h"
 #include "platform/KonfigRegistrierung.h"
 #include "platform/LinuxDatentraeger.h"
 #include "platform/LinuxShell.h"
 #include "platform/SystemDienste.h"
 #include "platform/Verzeichnisse.h"
+#include "shell/Fortschritt.h"
 #include "ui/GuiOberflaeche.h"
+#include "ui/Programmstart.h"
 #include "ui/frmMain.h"
 
 #include <QApplication>
@@ -14,9 +17,11 @@
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("klangkartei"));
+    QApplication::setApplicationDisplayName(QString::fromUtf8(ProgrammTitel));
 
     frmMain* hauptfenster = nullptr;
     GuiOberfläche ui([&]() -> QWidget* { return hauptfenster; });
+    OrdnerAnlegen(KonfigOrdner());
     KonfigRegistrierung registrierung(KonfigOrdner() + "/klangkartei.conf");
     KeinSpielerfenster spieler;
     LinuxShell shell;
@@ -28,10 +33,16 @@ int main(int argc, char** argv) {
     SystemUhr uhr;
     SystemZufall zufall;
     Kartei k(Dienste{ui, registrierung, spieler, shell, datenträger, uhr, zufall});
-    k.LetzteSpeicherung = uhr.Jetzt();
+    ui.fortschrittAbbrechen = [&k] { FortschrittAbbrechenGedrückt(k); };
 
-    frmMain fenster(k);
+    std::vector<std::string> argumente;
+    for (int i = 1; i < argc; ++i) argumente.emplace_back(QString::fromLocal8Bit(argv[i]).toStdString());
+    StartVorbereiten(k, argumente);
+    OrdnerAnlegen(DatenOrdner());  // der Standard-Index entsteht beim ersten Laden dort
+
+    frmMain fenster(k, ui, StandardIndexPfad());
     hauptfenster = &fenster;
-    fenster.show();
+    FensterStarten(k, fenster, ui);
+    VorführungStarten(k, fenster);
     return app.exec();
 }

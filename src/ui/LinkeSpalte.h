@@ -1,0 +1,44 @@
+#pragma once
+// Die linke Spalte des Hauptfensters: Befehle wie Verweise, in Gruppen. fraLinks2 braucht einen
+// offenen Index, fraNurBeiAusgewählt eine Auswahl; fraLinks3 gehört dem Spieler.
+#include <QFrame>
+#include <QMap>
+
+struct Einstellungen;
+class LinkLabel;
+class QLabel;
+
+class LinkeSpalte final : public QFrame {
+    Q_OBJECT
+public:
+    explicit LinkeSpalte(QWidget* eltern);
+    LinkeSpalte(const LinkeSpalte&) = delete;
+    LinkeSpalte& operator=(const LinkeSpalte&) = delete;
+
+    void FarbenAnwenden(const Einstellungen& e);
+    LinkLabel* Befehl(const QString& name) const { return befehle_.value(name); }
+    QWidget* fraLinks2() const { return fraLinks2_; }
+    QWidget* fraNurBeiAusgewählt() const { return fraNurBeiAusgewählt_; }
+    QLabel* lblDateiAnzahl() const { return lblDateiAnzahl_; }
+    QLabel* lblWinampSteuerungTitel() const { return lblWinampSteuerungTitel_; }
+
+signals:
+    void befehl(const QString& name);
+
+protected:
+    void mouseMoveEvent(QMouseEvent* ereignis) override;
+    void leaveEvent(QEvent* ereignis) override;
+
+private:
+    QWidget* Gruppe(const QString& name, const QString& überschrift, QWidget* eltern);
+    void Hinzufügen(QWidget* gruppe, const char* name, const char* text);
+    void Hover(LinkLabel* label);
+
+    QMap<QString, LinkLabel*> befehle_;
+    QList<QLabel*> überschriften_;
+    QWidget* fraLinks2_ = nullptr;
+    QWidget* fraNurBeiAusgewählt_ = nullptr;
+    QLabel* lblDateiAnzahl_ = nullptr;
+    QLabel* lblWinampSteuerungTitel_ = nullptr;
+    LinkLabel* hover_ = nullptr;
+};

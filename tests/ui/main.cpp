@@ -1,0 +1,25 @@
+// Die Fenstertests: jede Testklasse nacheinander, mit eigenem XDG-Ordner für Einstellungen und Index.
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+int DialogeTestAusführen(int argc, char** argv);
+int FensterTestAusführen(int argc, char** argv);
+int ListeTestAusführen(int argc, char** argv);
+
+int main(int argc, char** argv) {
+    QTemporaryDir xdg;
+    for (const char* name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+        const QString ordner = xdg.path() + QLatin1Char('/') + QString::fromLatin1(name);
+        QDir().mkpath(ordner);
+        QFile::setPermissions(ordner, QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        qputenv(name, ordner.toLocal8Bit());
+    }
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    int fehler = DialogeTestAusführen(argc, argv);
+    fehler += FensterTestAusführen(argc, argv);
+    fehler += ListeTestAusführen(argc, argv);
+    return fehler;
+}
