@@ -42,17 +42,7 @@ struct Fenster {
 
     Fenster() {
         ui.fortschrittAbbrechen = [this] { FortschrittAbbrechenGedrückt(k); };
-        ui.meldungsSkript = [this](const std::string& text, int schalter) {
-            meldungen.push_back({text, schalter});
-            if (schalter == Meldung::Ausrufezeichen || schalter == Meldung::Information) return Meldung::Ok;
-            if (antworten.empty()) {
-                qWarning("Ungeplante Frage: %s", text.c_str());
-                return Meldung::Abbrechen;
-            }
-            const int a = antworten.front();
-            antworten.pop_front();
-            return a;
-        };
+        ui.meldungsSkript = MeldungenNachSkript(meldungen, antworten);
         ui.dialogSkript = [this](QDialog& d) {
             dialoge.push_back(d.objectName());
             auto it = skripte.find(d.objectName());

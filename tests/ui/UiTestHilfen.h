@@ -10,9 +10,26 @@
 #include <QTest>
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
+
+// Meldungen mitschreiben und Fragen der Reihe nach aus antworten beantworten.
+inline std::function<int(const std::string&, int)> MeldungenNachSkript(std::vector<AufgezeichneteMeldung>& meldungen,
+                                                                       std::deque<int>& antworten) {
+    return [&meldungen, &antworten](const std::string& text, int schalter) {
+        meldungen.push_back({text, schalter});
+        if (schalter == Meldung::Ausrufezeichen || schalter == Meldung::Information) return Meldung::Ok;
+        if (antworten.empty()) {
+            qWarning("Ungeplante Frage: %s", text.c_str());
+            return Meldung::Abbrechen;
+        }
+        const int a = antworten.front();
+        antworten.pop_front();
+        return a;
+    };
+}
 
 struct GuiUmgebung {
     QWidget* besitzer = nullptr;
@@ -29,17 +46,7 @@ struct GuiUmgebung {
     std::deque<int> antworten;  // für Ja/Nein/Abbrechen-Fragen, der Reihe nach
 
     GuiUmgebung() {
-        ui.meldungsSkript = [this](const std::string& text, int schalter) {
-            meldungen.push_back({text, schalter});
-            if (schalter == Meldung::Ausrufezeichen || schalter == Meldung::Information) return Meldung::Ok;
-            if (antworten.empty()) {
-                qWarning("Ungeplante Frage: %s", text.c_str());
-                return Meldung::Abbrechen;
-            }
-            const int a = antworten.front();
-            antworten.pop_front();
-            return a;
-        };
+        ui.meldungsSkript = MeldungenNachSkript(meldungen, antworten);
     }
     bool MeldungGezeigt(const std::string& text) const {
         for (const auto& m : meldungen)
