@@ -72,7 +72,7 @@ bool DateiInfoFeldLesen(const DateiInfo& d, const std::string& name, std::string
             const auto& v = d.*zeiger;
             using T = std::decay_t<decltype(v)>;
             if constexpr (std::is_same_v<T, std::string>) wert = v;
-            else if constexpr (std::is_same_v<T, bool>) wert = v ? "1" : "0";
+            else if constexpr (std::is_same_v<T, bool>) wert.assign(1, v ? '1' : '0');
             else wert = std::to_string(static_cast<long long>(v));
         },
         e->zeiger);

@@ -128,7 +128,9 @@ std::string TausenderFormat(double wert) {
     bool negativ = r < 0;
     char puffer[64];
     std::snprintf(puffer, sizeof puffer, "%.0f", std::fabs(r));
-    return (negativ ? "-" : "") + Gruppieren(puffer);
+    std::string aus(negativ ? "-" : "");
+    aus += Gruppieren(puffer);
+    return aus;
 }
 
 void TausenderFormatAnhängen(std::string& ziel, int64_t wert) {
@@ -151,5 +153,9 @@ std::string ZweiStellenFormat(double wert) {
     std::snprintf(puffer, sizeof puffer, "%.2f", std::fabs(r));
     std::string s = puffer;
     auto punkt = s.find('.');
-    return (negativ ? "-" : "") + Gruppieren(s.substr(0, punkt)) + "," + s.substr(punkt + 1);
+    std::string aus(negativ ? "-" : "");
+    aus += Gruppieren(s.substr(0, punkt));
+    aus += ',';
+    aus += s.substr(punkt + 1);
+    return aus;
 }
