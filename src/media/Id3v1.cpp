@@ -184,17 +184,7 @@ bool TAGEntfernen(Kartei& k, DateiInfo& rückgabe, const std::string& dateiname,
         return false;
     }
     const auto ergebnis = DateiNeuSchreiben(dateiname, neu, {}, 0, DateiRest{dateiname, {{0, länge - 128}}});
-    if (ergebnis.schritt == NeuSchreibenSchritt::Ersetzen) {
-        k.ui.MeldungZeigen("Der ID3v1-TAG konnte nicht entfernt werden.\nDie Datei '" + dateiname +
-                               "' konnte nicht ersetzt werden.", Meldung::Ausrufezeichen);
-        return false;
-    }
-    if (!ergebnis.Gelungen()) {
-        k.ui.MeldungZeigen("Die Entfernung des ID3v1-TAGs der Datei '" + dateiname +
-                               "' konnte nicht abgeschlossen werden.\nStellen Sie sicher, daß die Datei verfügbar ist "
-                               "und nicht durch eine andere Anwendung geöffnet wurde.", Meldung::Ausrufezeichen);
-        return false;
-    }
+    if (!TagEntfernenErgebnisMelden(k, "ID3v1", dateiname, ergebnis)) return false;
     rückgabe = MedienInfosLesen(k, dateiname, rückgabe, "10", false, "1", "0");
     if (k.DateiDaten.GültigerIndex(eintrag)) {
         k.DateiDaten[eintrag] = rückgabe;

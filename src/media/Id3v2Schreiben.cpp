@@ -229,17 +229,7 @@ bool TAGEntfernenV2(Kartei& k, const std::string& dateiname, int32_t eintrag, bo
     if (nurZurückgeben) return true;
 
     const auto e = DateiNeuSchreiben(dateiname, neu, {}, 0, rest);
-    if (e.schritt == NeuSchreibenSchritt::Ersetzen) {
-        k.ui.MeldungZeigen("Der ID3v2-TAG konnte nicht entfernt werden.\nDie Datei '" + dateiname +
-                               "' konnte nicht ersetzt werden.", Meldung::Ausrufezeichen);
-        return false;
-    }
-    if (!e.Gelungen()) {
-        k.ui.MeldungZeigen("Die Entfernung des ID3v2-TAGs der Datei '" + dateiname +
-                               "' konnte nicht abgeschlossen werden.\nStellen Sie sicher, daß die Datei verfügbar ist "
-                               "und nicht durch eine andere Anwendung geöffnet wurde.", Meldung::Ausrufezeichen);
-        return false;
-    }
+    if (!TagEntfernenErgebnisMelden(k, "ID3v2", dateiname, e)) return false;
     const DateiInfo& basis = arbeitsdaten ? *arbeitsdaten : datensatz;
     DateiInfo aufgefrischt = MedienInfosLesen(k, dateiname, basis, "01", false, "1", "0");
     if (arbeitsdaten) *arbeitsdaten = aufgefrischt;

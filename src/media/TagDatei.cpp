@@ -180,3 +180,17 @@ int32_t ListenEintrag(const Kartei& k, int32_t position) {
 std::string EintragPfad(const Kartei& k, int32_t eintrag) {
     return k.DateiPfade.GültigerIndex(eintrag) ? k.DateiPfade[eintrag] : std::string();
 }
+
+bool TagEntfernenErgebnisMelden(Kartei& k, const char* version, const std::string& dateiname,
+                                const NeuSchreibenErgebnis& e) {
+    if (e.Gelungen()) return true;
+    const std::string v = version;
+    if (e.schritt == NeuSchreibenSchritt::Ersetzen)
+        k.ui.MeldungZeigen("Der " + v + "-TAG konnte nicht entfernt werden.\nDie Datei '" + dateiname +
+                               "' konnte nicht ersetzt werden.", Meldung::Ausrufezeichen);
+    else
+        k.ui.MeldungZeigen("Die Entfernung des " + v + "-TAGs der Datei '" + dateiname +
+                               "' konnte nicht abgeschlossen werden.\nStellen Sie sicher, daß die Datei verfügbar ist "
+                               "und nicht durch eine andere Anwendung geöffnet wurde.", Meldung::Ausrufezeichen);
+    return false;
+}

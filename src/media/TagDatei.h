@@ -40,6 +40,11 @@ struct NeuSchreibenErgebnis {
 NeuSchreibenErgebnis DateiNeuSchreiben(const std::string& ziel, const std::string& neu, std::string_view vorn,
                                        int64_t nullen, const DateiRest& rest);
 
+// Nach dem Neuschreiben beim Entfernen eines Tags ("ID3v1" oder "ID3v2"): meldet ein Scheitern
+// mit dem Text seines Schritts. true, wenn das Neuschreiben gelang.
+bool TagEntfernenErgebnisMelden(Kartei& k, const char* version, const std::string& dateiname,
+                                const NeuSchreibenErgebnis& e);
+
 // Lässt sich die Datei zum Schreiben öffnen? Sonst steht der Grund in systemFehler.
 bool DateiBeschreibbar(const std::string& pfad, int& systemFehler);
 

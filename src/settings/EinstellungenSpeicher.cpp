@@ -17,7 +17,22 @@ const Einstellungen& Vorgaben() {
     return vorgaben;
 }
 
-template <typename T> bool ZahlEinstellungLesen(Kartei& k, const std::string& name, T& ergebnis, T vorgabe) {
+// Den gelesenen Wert übernehmen, wenn er von der erwarteten Art ist. Die Registrierung hängte an
+// Texte eine abschließende Null; der getypte Speicher nicht, also kommt der Text unverändert zurück.
+bool Übernehmen(RegistrierungsWert& w, std::string& ziel) {
+    if (w.istZahl) return false;
+    ziel = std::move(w.text);
+    return true;
+}
+
+template <typename T> bool Übernehmen(const RegistrierungsWert& w, T& ziel) {
+    if (!w.istZahl || w.zahl < std::numeric_limits<T>::min() || w.zahl > std::numeric_limits<T>::max()) return false;
+    ziel = static_cast<T>(w.zahl);
+    return true;
+}
+
+// Rücksetz-Modus oder fehlender/unpassender Wert geben die Vorgabe.
+template <typename T> bool EinstellungLesen(Kartei& k, const std::string& name, T& ergebnis, const T& vorgabe) {
     if (k.E.RücksetzModus) {
         ergebnis = vorgabe;
         return true;
@@ -27,13 +42,10 @@ template <typename T> bool ZahlEinstellungLesen(Kartei& k, const std::string& na
         ergebnis = vorgabe;
         return false;
     }
-    if (!w.istZahl || w.zahl < std::numeric_limits<T>::min() || w.zahl > std::numeric_limits<T>::max()) {
-        KK_TRACE("SpezielleEinstellungLesen", "Wert der falschen Art - " + name);
-        ergebnis = vorgabe;
-        return false;
-    }
-    ergebnis = static_cast<T>(w.zahl);
-    return true;
+    if (Übernehmen(w, ergebnis)) return true;
+    KK_TRACE("SpezielleEinstellungLesen", "Wert der falschen Art - " + name);
+    ergebnis = vorgabe;
+    return false;
 }
 }  // namespace
 
@@ -45,32 +57,15 @@ bool ValueLesen(Kartei& k, const std::string& name, RegistrierungsWert& ergebnis
 }
 
 bool SpezielleEinstellungLesen(Kartei& k, const std::string& name, std::string& ergebnis, const std::string& vorgabe) {
-    if (k.E.RücksetzModus) {
-        ergebnis = vorgabe;
-        return true;
-    }
-    RegistrierungsWert w;
-    if (!ValueLesen(k, name, w)) {
-        ergebnis = vorgabe;
-        return false;
-    }
-    if (w.istZahl) {
-        KK_TRACE("SpezielleEinstellungLesen", "Zahl statt Text - " + name);
-        ergebnis = vorgabe;
-        return false;
-    }
-    // Die Registrierung hängte eine abschließende Null an; der getypte Speicher nicht, also
-    // kommt der Text unverändert zurück.
-    ergebnis = std::move(w.text);
-    return true;
+    return EinstellungLesen(k, name, ergebnis, vorgabe);
 }
 
 bool SpezielleEinstellungLesen(Kartei& k, const std::string& name, int32_t& ergebnis, int32_t vorgabe) {
-    return ZahlEinstellungLesen(k, name, ergebnis, vorgabe);
+    return EinstellungLesen(k, name, ergebnis, vorgabe);
 }
 
 bool SpezielleEinstellungLesen(Kartei& k, const std::string& name, int16_t& ergebnis, int16_t vorgabe) {
-    return ZahlEinstellungLesen(k, name, ergebnis, vorgabe);
+    return EinstellungLesen(k, name, ergebnis, vorgabe);
 }
 
 bool SpezielleEinstellungSpeichern(Kartei& k, const std::string& name, const std::string& wert) {

@@ -12,6 +12,14 @@
 #include <QMessageBox>
 
 namespace {
+// Tests: die erste Datei, die das Skript wählt; false wie Abbrechen.
+bool ErsteDateiAusSkript(const std::function<bool(std::vector<std::string>&)>& skript, std::string& datei) {
+    std::vector<std::string> d;
+    if (!skript(d) || d.empty()) return false;
+    datei = d.front();
+    return true;
+}
+
 // "Name|*.a;*.b|Name2|*.c" → "Name (*.a *.b);;Name2 (*.c)"
 QString QtFilter(const std::string& filter) {
     const QStringList teile = Q(filter).split(QLatin1Char('|'));
@@ -144,12 +152,7 @@ bool GuiOberfläche::DateienWählen(const std::string& titel, const std::string&
 
 bool GuiOberfläche::DateiWählen(const std::string& titel, const std::string& filter, const std::string& start,
                                 std::string& datei) {
-    if (dateienSkript) {
-        std::vector<std::string> d;
-        if (!dateienSkript(d) || d.empty()) return false;
-        datei = d.front();
-        return true;
-    }
+    if (dateienSkript) return ErsteDateiAusSkript(dateienSkript, datei);
     const QString neu = QFileDialog::getOpenFileName(Besitzer(), Q(titel), Q(start), QtFilter(filter));
     if (neu.isEmpty()) return false;
     datei = S(neu);
@@ -158,12 +161,7 @@ bool GuiOberfläche::DateiWählen(const std::string& titel, const std::string& f
 
 bool GuiOberfläche::DateiZumSpeichernWählen(const std::string& titel, const std::string& filter,
                                             const std::string& start, std::string& datei) {
-    if (dateienSkript) {
-        std::vector<std::string> d;
-        if (!dateienSkript(d) || d.empty()) return false;
-        datei = d.front();
-        return true;
-    }
+    if (dateienSkript) return ErsteDateiAusSkript(dateienSkript, datei);
     const QString neu = QFileDialog::getSaveFileName(Besitzer(), Q(titel), Q(start), QtFilter(filter));
     if (neu.isEmpty()) return false;
     datei = S(neu);

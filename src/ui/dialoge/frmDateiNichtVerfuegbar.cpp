@@ -1,5 +1,7 @@
 #include "ui/dialoge/frmDateiNichtVerfuegbar.h"
 
+#include "ui/dialoge/Knopf.h"
+
 #include "ui/Umrechnung.h"
 
 #include <QHBoxLayout>
@@ -32,9 +34,7 @@ frmDateiNichtVerfügbar::frmDateiNichtVerfügbar(QWidget* besitzer, const std::s
                  {"cmdÜberspringenAlle", "&Alle überspringen", NichtVerfügbarAntwort::AlleÜberspringen},
                  {"cmdAbbrechen", "Vorgang abbrechen", NichtVerfügbarAntwort::Abbrechen}};
     for (const auto& k : liste) {
-        auto* knopf = new QPushButton(QString::fromUtf8(k.text), this);
-        knopf->setObjectName(QString::fromUtf8(k.name));
-        knopf->setAutoDefault(false);
+        auto* knopf = Knopf(this, k.name, k.text);
         const auto antwort = k.antwort;
         connect(knopf, &QPushButton::clicked, this, [this, antwort] { Wählen(antwort); });
         knöpfe->addWidget(knopf);

@@ -1,5 +1,7 @@
 #include "ui/dialoge/frmHinweise.h"
 
+#include "ui/dialoge/Knopf.h"
+
 #include "shell/Tipps.h"
 #include "ui/Umrechnung.h"
 
@@ -26,13 +28,9 @@ frmHinweise::frmHinweise(QWidget* besitzer, Kartei& k, int32_t tipp) : QDialog(b
     chkWiederZeigen_->setObjectName(QStringLiteral("chkWiederZeigen"));
     chkWiederZeigen_->setChecked(true);
 
-    auto* cmdZurück = new QPushButton(QStringLiteral("< &Zurück"), this);
-    cmdZurück->setObjectName(QStringLiteral("cmdZurück"));
-    cmdZurück->setAutoDefault(false);
+    auto* cmdZurück = Knopf(this, "cmdZurück", "< &Zurück");
     connect(cmdZurück, &QPushButton::clicked, this, [this] { Zeigen(TippZurück(k_, tag_)); });
-    auto* cmdVor = new QPushButton(QStringLiteral("&Weiter >"), this);
-    cmdVor->setObjectName(QStringLiteral("cmdVor"));
-    cmdVor->setAutoDefault(false);
+    auto* cmdVor = Knopf(this, "cmdVor", "&Weiter >");
     connect(cmdVor, &QPushButton::clicked, this, [this] { Zeigen(TippVor(k_, tag_)); });
     auto* cmdOk = new QPushButton(QStringLiteral("OK"), this);
     cmdOk->setObjectName(QStringLiteral("cmdOk"));

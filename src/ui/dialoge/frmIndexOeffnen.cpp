@@ -7,20 +7,13 @@
 #include "ui/GuiOberflaeche.h"
 #include "ui/Umrechnung.h"
 
+#include "ui/dialoge/Knopf.h"
+
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-
-namespace {
-QPushButton* Knopf(QWidget* eltern, const char* name, const char* text) {
-    auto* k = new QPushButton(QString::fromUtf8(text), eltern);
-    k->setObjectName(QString::fromUtf8(name));
-    k->setAutoDefault(false);
-    return k;
-}
-}  // namespace
 
 frmIndexÖffnen::frmIndexÖffnen(QWidget* besitzer, Kartei& k, GuiOberfläche& ui)
     : QDialog(besitzer), k_(k), ui_(ui) {

@@ -1,5 +1,7 @@
 #include "ui/dialoge/frmWillkommen.h"
 
+#include "ui/dialoge/Knopf.h"
+
 #include "app/Kartei.h"
 #include "ui/Umrechnung.h"
 
@@ -21,9 +23,7 @@ frmWillkommen::frmWillkommen(QWidget* besitzer, const std::string& text) : QDial
     lblText->setWordWrap(true);
     lblText->setTextFormat(Qt::PlainText);
     lblText->setMinimumWidth(440);
-    auto* cmdHilfe = new QPushButton(QStringLiteral("&Infodatei"), this);
-    cmdHilfe->setObjectName(QStringLiteral("cmdHilfe"));
-    cmdHilfe->setAutoDefault(false);
+    auto* cmdHilfe = Knopf(this, "cmdHilfe", "&Infodatei");
     connect(cmdHilfe, &QPushButton::clicked, this, [this] {
         if (hilfe) hilfe();
     });
