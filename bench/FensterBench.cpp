@@ -50,13 +50,15 @@ struct Liste {
     }
 };
 
-// Eine Liste je Größe für alle Läufe: das Erzeugen zählt nicht.
-Liste& Vorbereitet(int64_t anzahl) {
-    static std::map<int64_t, std::unique_ptr<Liste>> listen;
-    auto& l = listen[anzahl];
-    if (!l) l = std::make_unique<Liste>(int32_t(anzahl));
-    return *l;
+// Ein Aufbau je Größe für alle Läufe: das Erzeugen zählt nicht.
+template <typename T> T& EinmalJeGröße(int64_t anzahl) {
+    static std::map<int64_t, std::unique_ptr<T>> vorrat;
+    auto& v = vorrat[anzahl];
+    if (!v) v = std::make_unique<T>(int32_t(anzahl));
+    return *v;
 }
+
+Liste& Vorbereitet(int64_t anzahl) { return EinmalJeGröße<Liste>(anzahl); }
 
 // Nach einer Suche: jede zweite Zeile bleibt, dann wieder alle (Zeilen anhängen/abschneiden).
 void BM_ListeAbgleichen(benchmark::State& state) {
@@ -168,12 +170,7 @@ struct Hauptfenster {
     }
 };
 
-Hauptfenster& HauptfensterVorbereitet(int64_t anzahl) {
-    static std::map<int64_t, std::unique_ptr<Hauptfenster>> fenster;
-    auto& f = fenster[anzahl];
-    if (!f) f = std::make_unique<Hauptfenster>(int32_t(anzahl));
-    return *f;
-}
+Hauptfenster& HauptfensterVorbereitet(int64_t anzahl) { return EinmalJeGröße<Hauptfenster>(anzahl); }
 
 void BM_TasteBisZurListe(benchmark::State& state) {
     Hauptfenster& h = HauptfensterVorbereitet(state.range(0));
