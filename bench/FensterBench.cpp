@@ -102,10 +102,8 @@ void BM_AlleWählen(benchmark::State& state) {
     bool alle = false;
     for (auto _ : state) {
         alle = !alle;
-        if (alle)
-            mnu_wählealle(l.u.k.Liste.lstSongs);
-        else
-            mnu_wählekeine(l.u.k.Liste.lstSongs);
+        if (alle) mnu_wählealle(l.u.k.Liste.lstSongs);
+        else mnu_wählekeine(l.u.k.Liste.lstSongs);
         l.ansicht->Abgleichen();
     }
 }
@@ -118,10 +116,8 @@ void BM_AuswahlDerPerson(benchmark::State& state) {
     bool alle = false;
     for (auto _ : state) {
         alle = !alle;
-        if (alle)
-            l.ansicht->selectAll();
-        else
-            l.ansicht->clearSelection();
+        if (alle) l.ansicht->selectAll();
+        else l.ansicht->clearSelection();
     }
 }
 // Das ganze Hauptfenster über einem erfundenen Index: eine Taste im Suchfeld bis zur fertigen Liste

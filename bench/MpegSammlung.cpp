@@ -12,9 +12,12 @@ MpegSammlung::MpegSammlung(int anzahl, bool mitOrdnern) {
     std::mt19937 z(42);
     for (int i = 0; i < anzahl; ++i) {
         mpeg::V2Tag t;
-        t.rahmen = {mpeg::Text("TIT2", "Titel " + std::to_string(i)), mpeg::Text("TPE1", "Interpret"),
-                    mpeg::Text("TALB", "Album"), mpeg::Kommentar("COMM", "Kommentar"),
-                    mpeg::Text("TCON", "Rock"), mpeg::Text("TRCK", std::to_string(i % 20))};
+        t.rahmen = {mpeg::Text("TIT2", "Titel " + std::to_string(i)),
+                    mpeg::Text("TPE1", "Interpret"),
+                    mpeg::Text("TALB", "Album"),
+                    mpeg::Kommentar("COMM", "Kommentar"),
+                    mpeg::Text("TCON", "Rock"),
+                    mpeg::Text("TRCK", std::to_string(i % 20))};
         t.padding = 512;
         mpeg::Kopf k;
         std::string anfang = mpeg::Id3v2(t);

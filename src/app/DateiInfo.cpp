@@ -6,30 +6,73 @@
 #include <variant>
 
 namespace {
-using Zeiger = std::variant<std::string DateiInfo::*, int32_t DateiInfo::*, int16_t DateiInfo::*,
-                            uint8_t DateiInfo::*, bool DateiInfo::*>;
+using Zeiger = std::variant<std::string DateiInfo::*, int32_t DateiInfo::*, int16_t DateiInfo::*, uint8_t DateiInfo::*,
+                            bool DateiInfo::*>;
 struct Eintrag {
     DateiInfoFeld feld;
     Zeiger zeiger;
 };
 
-#define KK_T(n) Eintrag{{#n, FeldArt::Text}, &DateiInfo::n}
-#define KK_Z(n) Eintrag{{#n, FeldArt::Zahl}, &DateiInfo::n}
-#define KK_W(n) Eintrag{{#n, FeldArt::Wahrheit}, &DateiInfo::n}
+#define KK_T(n)                                                                                                        \
+    Eintrag { {#n, FeldArt::Text}, &DateiInfo::n }
+#define KK_Z(n)                                                                                                        \
+    Eintrag { {#n, FeldArt::Zahl}, &DateiInfo::n }
+#define KK_W(n)                                                                                                        \
+    Eintrag { {#n, FeldArt::Wahrheit}, &DateiInfo::n }
 const Eintrag kFelder[] = {
-    KK_T(Mp3_ID3v1_TAG), KK_T(Mp3_ID3v1_Titel), KK_T(Mp3_ID3v1_Interpret), KK_T(Mp3_ID3v1_Album),
-    KK_T(Mp3_ID3v1_Jahr), KK_T(Mp3_ID3v1_Kommentar), KK_T(Mp3_ID3v1_Track), KK_T(Mp3_ID3v1_Genre),
-    KK_Z(Datei_Größe), KK_T(Datei_Wechselmedium), KK_T(Datei_HinzugefügtAm), KK_Z(Datei_Typ),
-    KK_Z(Datei_AngefordertAnzahl), KK_T(Datei_AngefordertGespieltAm), KK_Z(Header_Bitrate),
-    KK_Z(Header_Frequenz), KK_Z(Header_Dauer), KK_Z(Header_Version), KK_Z(Header_Layer), KK_W(Header_VBR),
-    KK_W(Header_Original), KK_T(Header_Emphasis), KK_W(Header_Copyright), KK_T(Header_Modus),
-    KK_W(Header_Privat), KK_W(Header_Padding), KK_W(Header_CRC), KK_Z(Header_Frames), KK_Z(Header_Position),
-    KK_Z(Mp3_ID3v1_Status), KK_Z(Mp3_ID3v2_Status), KK_T(Mp3_ID3v2_Version), KK_Z(Mp3_ID3v2_TAGGröße),
-    KK_Z(Mp3_ID3v2_TAGPosition), KK_Z(Mp3_ID3v2_Benutzt), KK_T(Mp3_ID3v2_PCNT), KK_T(Mp3_ID3v2_TRCK),
-    KK_T(Mp3_ID3v2_TENC), KK_T(Mp3_ID3v2_WXXX), KK_T(Mp3_ID3v2_TCOP), KK_T(Mp3_ID3v2_TOPE),
-    KK_T(Mp3_ID3v2_TCOM), KK_T(Mp3_ID3v2_TCON), KK_T(Mp3_ID3v2_COMM), KK_T(Mp3_ID3v2_TYER),
-    KK_T(Mp3_ID3v2_TALB), KK_T(Mp3_ID3v2_TPE1), KK_T(Mp3_ID3v2_TIT2), KK_T(Mp3_ID3v2_TLAN),
-    KK_T(Mp3_ID3v2_TLEN), KK_T(Mp3_ID3v2_TMED), KK_T(Mp3_ID3v2_TPUB), KK_T(Mp3_ID3v2_TSSE),
+    KK_T(Mp3_ID3v1_TAG),
+    KK_T(Mp3_ID3v1_Titel),
+    KK_T(Mp3_ID3v1_Interpret),
+    KK_T(Mp3_ID3v1_Album),
+    KK_T(Mp3_ID3v1_Jahr),
+    KK_T(Mp3_ID3v1_Kommentar),
+    KK_T(Mp3_ID3v1_Track),
+    KK_T(Mp3_ID3v1_Genre),
+    KK_Z(Datei_Größe),
+    KK_T(Datei_Wechselmedium),
+    KK_T(Datei_HinzugefügtAm),
+    KK_Z(Datei_Typ),
+    KK_Z(Datei_AngefordertAnzahl),
+    KK_T(Datei_AngefordertGespieltAm),
+    KK_Z(Header_Bitrate),
+    KK_Z(Header_Frequenz),
+    KK_Z(Header_Dauer),
+    KK_Z(Header_Version),
+    KK_Z(Header_Layer),
+    KK_W(Header_VBR),
+    KK_W(Header_Original),
+    KK_T(Header_Emphasis),
+    KK_W(Header_Copyright),
+    KK_T(Header_Modus),
+    KK_W(Header_Privat),
+    KK_W(Header_Padding),
+    KK_W(Header_CRC),
+    KK_Z(Header_Frames),
+    KK_Z(Header_Position),
+    KK_Z(Mp3_ID3v1_Status),
+    KK_Z(Mp3_ID3v2_Status),
+    KK_T(Mp3_ID3v2_Version),
+    KK_Z(Mp3_ID3v2_TAGGröße),
+    KK_Z(Mp3_ID3v2_TAGPosition),
+    KK_Z(Mp3_ID3v2_Benutzt),
+    KK_T(Mp3_ID3v2_PCNT),
+    KK_T(Mp3_ID3v2_TRCK),
+    KK_T(Mp3_ID3v2_TENC),
+    KK_T(Mp3_ID3v2_WXXX),
+    KK_T(Mp3_ID3v2_TCOP),
+    KK_T(Mp3_ID3v2_TOPE),
+    KK_T(Mp3_ID3v2_TCOM),
+    KK_T(Mp3_ID3v2_TCON),
+    KK_T(Mp3_ID3v2_COMM),
+    KK_T(Mp3_ID3v2_TYER),
+    KK_T(Mp3_ID3v2_TALB),
+    KK_T(Mp3_ID3v2_TPE1),
+    KK_T(Mp3_ID3v2_TIT2),
+    KK_T(Mp3_ID3v2_TLAN),
+    KK_T(Mp3_ID3v2_TLEN),
+    KK_T(Mp3_ID3v2_TMED),
+    KK_T(Mp3_ID3v2_TPUB),
+    KK_T(Mp3_ID3v2_TSSE),
     KK_T(Mp3_ID3v2_Weitere),
 };
 #undef KK_T

@@ -75,9 +75,7 @@ std::string Zeit(const Datum& d) {
 
 int64_t Tageszahl(const Datum& d) { return TageSeit1970(d.Jahr, d.Monat, d.Tag) - kNullpunkt; }
 
-int64_t Sekundenzahl(const Datum& d) {
-    return Tageszahl(d) * 86400 + d.Stunde * 3600 + d.Minute * 60 + d.Sekunde;
-}
+int64_t Sekundenzahl(const Datum& d) { return Tageszahl(d) * 86400 + d.Stunde * 3600 + d.Minute * 60 + d.Sekunde; }
 
 Datum AusSekundenzahl(int64_t s) {
     int64_t tage = s >= 0 ? s / 86400 : -((-s + 86399) / 86400);
@@ -106,9 +104,8 @@ bool DatumLesen(std::string_view roh, Datum& ergebnis) {
     while (!t.empty() && t.back() == ' ') t.remove_suffix(1);
     Datum d{0, 0, 0, 0, 0, 0};
     size_t pos = 0;
-    bool deutsch = ZiffernLesen(t, pos, 1, 2, d.Tag) && Zeichen(t, pos, '.') &&
-                   ZiffernLesen(t, pos, 1, 2, d.Monat) && Zeichen(t, pos, '.') &&
-                   ZiffernLesen(t, pos, 4, 4, d.Jahr);
+    bool deutsch = ZiffernLesen(t, pos, 1, 2, d.Tag) && Zeichen(t, pos, '.') && ZiffernLesen(t, pos, 1, 2, d.Monat) &&
+                   Zeichen(t, pos, '.') && ZiffernLesen(t, pos, 4, 4, d.Jahr);
     if (!deutsch) {
         d = Datum{0, 0, 0, 0, 0, 0};
         pos = 0;
@@ -150,6 +147,4 @@ int64_t DatumDifferenz(Zeiteinheit einheit, const Datum& a, const Datum& b) {
     return 0;
 }
 
-Datum TageAddieren(const Datum& d, int32_t tage) {
-    return AusSekundenzahl(Sekundenzahl(d) + int64_t{tage} * 86400);
-}
+Datum TageAddieren(const Datum& d, int32_t tage) { return AusSekundenzahl(Sekundenzahl(d) + int64_t{tage} * 86400); }

@@ -18,9 +18,7 @@ public:
         daten_.resize(obergrenze > 0 ? static_cast<size_t>(obergrenze) : 0);
     }
     // Größe ändern, Inhalt bleibt.
-    void ReDimPreserve(int32_t obergrenze) {
-        daten_.resize(obergrenze > 0 ? static_cast<size_t>(obergrenze) : 0);
-    }
+    void ReDimPreserve(int32_t obergrenze) { daten_.resize(obergrenze > 0 ? static_cast<size_t>(obergrenze) : 0); }
     int32_t UBound() const { return static_cast<int32_t>(daten_.size()); }
     bool GültigerIndex(int32_t i) const { return i >= 1 && i <= UBound(); }
 

@@ -33,8 +33,8 @@ struct Dienste {
 
 struct Kartei {
     explicit Kartei(const Dienste& d)
-        : ui(d.ui), registrierung(d.registrierung), spieler(d.spieler), shell(d.shell),
-          datenträger(d.datenträger), uhr(d.uhr), zufall(d.zufall) {}
+        : ui(d.ui), registrierung(d.registrierung), spieler(d.spieler), shell(d.shell), datenträger(d.datenträger),
+          uhr(d.uhr), zufall(d.zufall) {}
     Kartei(const Kartei&) = delete;
     Kartei& operator=(const Kartei&) = delete;
 
@@ -48,8 +48,8 @@ struct Kartei {
     // daran erkennt die Suche, ob ihr Zwischenspeicher noch stimmt.
     uint64_t TabellenStand = 0;
 
-    std::string Dateiname;          // Pfad des offenen Index
-    Datum LetzteSpeicherung;        // Programmstart bzw. letzte Speicherung
+    std::string Dateiname;    // Pfad des offenen Index
+    Datum LetzteSpeicherung;  // Programmstart bzw. letzte Speicherung
 
     IndexOptionen Optionen;
     Einstellungen E;

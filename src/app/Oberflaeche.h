@@ -8,12 +8,12 @@
 
 // Schalter der Meldungsfenster und ihre Antworten.
 namespace Meldung {
-constexpr int Ausrufezeichen = 48;     // OK, Ausrufezeichen
-constexpr int Information = 64;        // OK, Information
-constexpr int JaNeinAusruf = 52;       // Ja/Nein, Ausrufezeichen
-constexpr int JaNeinFrage = 36;        // Ja/Nein, Frage
-constexpr int JaNeinAbbrechen = 35;    // Ja/Nein/Abbrechen, Frage
-constexpr int JaNeinStopp = 308;       // Ja/Nein, Stopp, zweiter Knopf vorgewählt
+constexpr int Ausrufezeichen = 48;   // OK, Ausrufezeichen
+constexpr int Information = 64;      // OK, Information
+constexpr int JaNeinAusruf = 52;     // Ja/Nein, Ausrufezeichen
+constexpr int JaNeinFrage = 36;      // Ja/Nein, Frage
+constexpr int JaNeinAbbrechen = 35;  // Ja/Nein/Abbrechen, Frage
+constexpr int JaNeinStopp = 308;     // Ja/Nein, Stopp, zweiter Knopf vorgewählt
 constexpr int Ok = 1, Abbrechen = 2, Ja = 6, Nein = 7;
 }  // namespace Meldung
 
@@ -21,11 +21,11 @@ constexpr int Ok = 1, Abbrechen = 2, Ja = 6, Nein = 7;
 struct FortschrittAnsicht {
     bool offen = false;
     std::string titel;
-    std::string vorgang;           // lblVorgang
+    std::string vorgang;  // lblVorgang
     bool balkenSichtbar = false;
-    int32_t balkenBreite = 0;      // 0..4500
+    int32_t balkenBreite = 0;  // 0..4500
     bool prozessSichtbar = false;
-    std::string prozess;           // lblProzess
+    std::string prozess;  // lblProzess
     bool abbrechenSichtbar = false;
 };
 

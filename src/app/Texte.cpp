@@ -10,10 +10,10 @@
 namespace {
 
 // Windows-1252, Bytes 0x80–0x9F; unbelegte Stellen behalten ihren Code.
-constexpr std::array<char32_t, 32> kCp1252Oben = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+constexpr std::array<char32_t, 32> kCp1252Oben = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                  0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
+                                                  0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                  0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 void Utf8Anhängen(std::string& ziel, char32_t cp) {
     utf8proc_uint8_t puffer[4];
@@ -42,12 +42,9 @@ template <typename Abbildung> std::string Abbilden(std::string_view text, Abbild
     while (pos < text.size()) {
         size_t anfang = pos;
         auto cp = CodepunktLesen(text, pos);
-        if (cp < 0)
-            aus.append(text.substr(anfang, pos - anfang));
-        else if (cp < 0x80)
-            aus.push_back(static_cast<char>(f(cp)));
-        else
-            Utf8Anhängen(aus, static_cast<char32_t>(f(cp)));
+        if (cp < 0) aus.append(text.substr(anfang, pos - anfang));
+        else if (cp < 0x80) aus.push_back(static_cast<char>(f(cp)));
+        else Utf8Anhängen(aus, static_cast<char32_t>(f(cp)));
     }
     return aus;
 }
@@ -93,12 +90,9 @@ std::string Windows1252ZuUtf8(std::string_view bytes) {
     std::string aus;
     aus.reserve(bytes.size() + bytes.size() / 8);
     for (unsigned char c : bytes) {
-        if (c < 0x80)
-            aus.push_back(static_cast<char>(c));
-        else if (c < 0xA0)
-            Utf8Anhängen(aus, kCp1252Oben[c - 0x80]);
-        else
-            Utf8Anhängen(aus, c);
+        if (c < 0x80) aus.push_back(static_cast<char>(c));
+        else if (c < 0xA0) Utf8Anhängen(aus, kCp1252Oben[c - 0x80]);
+        else Utf8Anhängen(aus, c);
     }
     return aus;
 }
@@ -233,8 +227,8 @@ uint64_t NamenStreuwert(std::string_view text) {
             if constexpr (std::endian::native == std::endian::big) block = __builtin_bswap64(block);
             if ((block & 0x8080808080808080ull) == 0) {
                 const uint64_t eins = 0x0101010101010101ull;
-                const uint64_t groß = ((block + (0x80 - 'A') * eins) ^ (block + (0x80 - 'Z' - 1) * eins)) &
-                                      0x8080808080808080ull;
+                const uint64_t groß =
+                    ((block + (0x80 - 'A') * eins) ^ (block + (0x80 - 'Z' - 1) * eins)) & 0x8080808080808080ull;
                 mischen(block | (groß >> 2));
                 pos += 8;
                 continue;
@@ -332,7 +326,8 @@ namespace {
 // Gemeinsamer Kern beider Zerleger.
 int32_t Teilen(std::string_view text, int32_t start, std::string_view trenn, EinsBasiert<std::string>& aus) {
     aus.ReDim(0);
-    auto rest = start > 1 ? (static_cast<size_t>(start - 1) < text.size() ? text.substr(static_cast<size_t>(start - 1)) : std::string_view())
+    auto rest = start > 1 ? (static_cast<size_t>(start - 1) < text.size() ? text.substr(static_cast<size_t>(start - 1))
+                                                                          : std::string_view())
                           : text;
     if (trenn.empty()) {
         aus.Anhängen(std::string(rest));
@@ -359,8 +354,8 @@ bool TextZerlegen(std::string_view text, int32_t start, int32_t anzahl, std::str
     return true;
 }
 
-bool TextDatensätzeLesen(std::string_view text, std::string_view trennzeichen, int32_t start,
-                         int32_t sollAnzahl, EinsBasiert<std::string>& ergebnis) {
+bool TextDatensätzeLesen(std::string_view text, std::string_view trennzeichen, int32_t start, int32_t sollAnzahl,
+                         EinsBasiert<std::string>& ergebnis) {
     ergebnis.ReDim(1);
     if (text.empty()) return false;
     int32_t n = Teilen(text, start, trennzeichen, ergebnis);

@@ -63,7 +63,7 @@ bool TextZerlegen(std::string_view text, int32_t start, int32_t anzahl, std::str
                   EinsBasiert<std::string>& ergebnis);
 // Der allgemeine Zerleger: setzt ergebnis zuerst auf ein leeres Element. Leerer Text: false.
 // sollAnzahl -1: jede Zahl von Teilen ist recht; sonst nur genau sollAnzahl (mindestens 1).
-bool TextDatensätzeLesen(std::string_view text, std::string_view trennzeichen, int32_t start,
-                         int32_t sollAnzahl, EinsBasiert<std::string>& ergebnis);
+bool TextDatensätzeLesen(std::string_view text, std::string_view trennzeichen, int32_t start, int32_t sollAnzahl,
+                         EinsBasiert<std::string>& ergebnis);
 // Endet der Text auf NUL, wird er an seinem ersten NUL abgeschnitten.
 std::string NullAbschneiden(std::string_view text);

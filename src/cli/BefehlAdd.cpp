@@ -19,5 +19,5 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
 }
 }  // namespace
 
-extern const Befehl BefehlAdd = {"add", "add PFAD...",
-                                 "Dateien, Ordner und Playlisten in den Index aufnehmen", Ausführen};
+extern const Befehl BefehlAdd = {"add", "add PFAD...", "Dateien, Ordner und Playlisten in den Index aufnehmen",
+                                 Ausführen};

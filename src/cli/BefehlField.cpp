@@ -14,8 +14,7 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
         else frei.push_back(a);
     }
     int32_t nummer = 0;
-    if (frei.size() != 2 || !NummerLesen(frei[0], nummer))
-        return GebrauchsFehler("Aufruf: field N FELD [--sortform]");
+    if (frei.size() != 2 || !NummerLesen(frei[0], nummer)) return GebrauchsFehler("Aufruf: field N FELD [--sortform]");
     if (!IndexFürBefehlLaden(c)) return 1;
     if (nummer < 1 || nummer > c.k.DateiAnzahl) {
         std::fprintf(stderr, "Den Eintrag %d gibt es nicht; der Index hat %d Einträge.\n", nummer, c.k.DateiAnzahl);
@@ -33,5 +32,4 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
 }  // namespace
 
 extern const Befehl BefehlField = {"field", "field N FELD [--sortform]",
-                                   "Ein Feld eines Eintrags (Wert und Art), nach Spaltenname oder %Muster%",
-                                   Ausführen};
+                                   "Ein Feld eines Eintrags (Wert und Art), nach Spaltenname oder %Muster%", Ausführen};

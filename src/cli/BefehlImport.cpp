@@ -21,5 +21,5 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
 }
 }  // namespace
 
-extern const Befehl BefehlImport = {"import", "import PLAYLISTE",
-                                    "Die Dateien einer Playliste (M3U, PLS) aufnehmen", Ausführen};
+extern const Befehl BefehlImport = {"import", "import PLAYLISTE", "Die Dateien einer Playliste (M3U, PLS) aufnehmen",
+                                    Ausführen};

@@ -8,9 +8,7 @@
 #include <cstdio>
 
 namespace {
-bool SchalterGültig(const std::string& s) {
-    return s.size() == 3 && s.find_first_not_of("01") == std::string::npos;
-}
+bool SchalterGültig(const std::string& s) { return s.size() == 3 && s.find_first_not_of("01") == std::string::npos; }
 
 int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
     std::string schalter = "111";

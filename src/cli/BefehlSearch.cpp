@@ -93,7 +93,8 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
     for (const auto& zeile : a.zeilen) {
         std::string feld, bedingung, text;
         if (!ZeileLesen(zeile, feld, bedingung, text))
-            return GebrauchsFehler("Die Abfragezeile '" + zeile + "' hat nicht die Form FELD:BEDINGUNG:TEXT "
+            return GebrauchsFehler("Die Abfragezeile '" + zeile +
+                                   "' hat nicht die Form FELD:BEDINGUNG:TEXT "
                                    "(BEDINGUNG zwei Ziffern, z. B. 00 oder 11).");
     }
     if (!IndexFürBefehlLaden(c)) return 1;

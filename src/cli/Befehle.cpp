@@ -15,15 +15,24 @@ extern const Befehl BefehlSearch, BefehlSort, BefehlComplete;
 const std::vector<Befehl>& AlleBefehle() {
     static const std::vector<Befehl> befehle = {
         // Index
-        BefehlShow, BefehlField, BefehlSave,
+        BefehlShow,
+        BefehlField,
+        BefehlSave,
         // Einstellungen
         BefehlSettings,
         // Mediendateien
-        BefehlInfo, BefehlTag, BefehlUntag,
+        BefehlInfo,
+        BefehlTag,
+        BefehlUntag,
         // Aufnahme
-        BefehlAdd, BefehlImport, BefehlScan, BefehlTypes,
+        BefehlAdd,
+        BefehlImport,
+        BefehlScan,
+        BefehlTypes,
         // Suche
-        BefehlSearch, BefehlSort, BefehlComplete,
+        BefehlSearch,
+        BefehlSort,
+        BefehlComplete,
     };
     return befehle;
 }

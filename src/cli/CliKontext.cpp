@@ -13,8 +13,9 @@ CliKontext::CliKontext(std::string pfad, bool j)
 }
 
 int GebrauchsFehler(const std::string& text) {
-    std::fprintf(stderr, "klangkartei-cli: %s\nAufruf: klangkartei-cli [--index PFAD] [--yes] BEFEHL [ARGUMENTE]\n"
-                         "Mit --help erscheint die Liste der Befehle.\n",
+    std::fprintf(stderr,
+                 "klangkartei-cli: %s\nAufruf: klangkartei-cli [--index PFAD] [--yes] BEFEHL [ARGUMENTE]\n"
+                 "Mit --help erscheint die Liste der Befehle.\n",
                  text.c_str());
     return 2;
 }

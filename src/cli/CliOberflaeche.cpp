@@ -47,7 +47,7 @@ void CliOberfläche::FortschrittDarstellen(const FortschrittAnsicht& a) {
 }
 
 NichtVerfügbarAntwort CliOberfläche::DateiNichtVerfügbar(const std::string&, const std::string& text,
-                                                          const std::function<bool()>&) {
+                                                         const std::function<bool()>&) {
     // Niemand kann einen Datenträger einlegen: die Datei wird übersprungen.
     std::fprintf(stderr, "%s\n→ Überspringen\n", text.c_str());
     return NichtVerfügbarAntwort::Überspringen;
@@ -59,6 +59,4 @@ bool CliOberfläche::NamenEingeben(const std::string&, const std::string&, std::
 
 bool CliOberfläche::OrdnerWählen(const std::string&, std::string&) { return false; }
 
-bool CliOberfläche::DateienWählen(const std::string&, const std::string&, std::vector<std::string>&) {
-    return false;
-}
+bool CliOberfläche::DateienWählen(const std::string&, const std::string&, std::vector<std::string>&) { return false; }

@@ -16,8 +16,7 @@ public:
     bool NamenEingeben(const std::string& titel, const std::string& knopf, std::string& text, int32_t,
                        int32_t) override;
     bool OrdnerWählen(const std::string& titel, std::string& ordner) override;
-    bool DateienWählen(const std::string& titel, const std::string& filter,
-                       std::vector<std::string>& dateien) override;
+    bool DateienWählen(const std::string& titel, const std::string& filter, std::vector<std::string>& dateien) override;
 
     // Der letzte Titeltext (Statuszeile), für Befehle, die ihn ausgeben.
     const std::string& LetzterTitelText() const { return letzterTitel_; }

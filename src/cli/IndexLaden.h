@@ -10,6 +10,5 @@
 // Fragen gehen nach stderr. false: nicht geladen, der Grund steht schon auf stderr.
 bool IndexFürBefehlLaden(CliKontext& c);
 
-
 // Eine Eintragsnummer aus einem Argument; false bei Unsinn.
 bool NummerLesen(const std::string& text, int32_t& nummer);

@@ -16,7 +16,7 @@ public:
 
     // false: die Datei lässt sich nicht öffnen (dann liefert sie auch keine Zeilen).
     bool Öffnen(const std::string& pfad);
-    int64_t Länge() const { return länge_; }       // Größe beim Öffnen
+    int64_t Länge() const { return länge_; }                        // Größe beim Öffnen
     int64_t Position() const { return basis_ + int64_t(anfang_); }  // hinter der letzten Zeile
 
     // Zeile bis CR LF, ohne das Zeilenende. Ein letztes Stück ohne Zeilenende zählt, wenn es

@@ -29,7 +29,8 @@ bool AufSpeichernWarten(Kartei& k, const std::string& pfad) {
     const std::string temp = pfad + "~";
     if (!DoesExist(temp)) return true;
     if (StartBildschirmBeimLaden(k))
-        FortschrittZeigenStarten(k, 0, true, false, false, "Warte auf Verfügbarkeit von '" + DateinameAusPfad(pfad) + "'");
+        FortschrittZeigenStarten(k, 0, true, false, false,
+                                 "Warte auf Verfügbarkeit von '" + DateinameAusPfad(pfad) + "'");
     const Datum start = k.uhr.Jetzt();
     do {
         if (!DoesExist(temp)) break;
@@ -38,7 +39,8 @@ bool AufSpeichernWarten(Kartei& k, const std::string& pfad) {
     } while (DatumDifferenz(Zeiteinheit::Sekunde, start, k.uhr.Jetzt()) <= 4);
     if (!DoesExist(temp)) return true;
     const std::string frage =
-        std::string(ProgrammTitel) + " wurde entweder nicht korrekt beendet oder speichert gerade Ihre Indexdatei.\n"
+        std::string(ProgrammTitel) +
+        " wurde entweder nicht korrekt beendet oder speichert gerade Ihre Indexdatei.\n"
         "Durch den Ladevorgang dieser Datei würde der Speicher-Vorgang unterbrochen und Datenverlust könnte die "
         "Folge sein.\n\nMöchten Sie den Ladevorgang fortsetzen?";
     if (k.ui.MeldungZeigen(frage, Meldung::JaNeinAusruf) != Meldung::Ja) {
@@ -74,9 +76,10 @@ bool FormatBestimmen(Kartei& k, const std::string& pfad, const std::string& zeil
                                "Programmes, um diesen Hinweis zu verhindern.",
                            Meldung::Information);
     if (format != -1) return true;
-    if (k.ui.MeldungZeigen("Die Indexdatei '" + pfad + "' liegt in einem älteren Dateiformat vor oder ist ungültig.\n"
-                           "Zum Aktualisieren werden nun die Datei-Informationen der enthaltenen Dateien neu "
-                           "eingelesen.\n\nSoll die Datei geladen und Aktualisierung versucht werden?",
+    if (k.ui.MeldungZeigen("Die Indexdatei '" + pfad +
+                               "' liegt in einem älteren Dateiformat vor oder ist ungültig.\n"
+                               "Zum Aktualisieren werden nun die Datei-Informationen der enthaltenen Dateien neu "
+                               "eingelesen.\n\nSoll die Datei geladen und Aktualisierung versucht werden?",
                            Meldung::JaNeinFrage) != Meldung::Ja) {
         FortschrittZeigenEnde(k);
         return false;

@@ -14,7 +14,7 @@
 #include <unistd.h>
 
 namespace {
-constexpr size_t kWertGrenze = 1000;          // mehr liest der Leser nicht
+constexpr size_t kWertGrenze = 1000;              // mehr liest der Leser nicht
 constexpr size_t kPufferGröße = size_t(4) << 20;  // ein write() je 4 MB
 
 // Ein Wert, wie ihn der Leser wieder annimmt: höchstens 1000 Bytes, an einer Zeichengrenze gekürzt.
@@ -48,20 +48,20 @@ struct ZahlText {
 };
 
 void DatensatzZeile(std::string& aus, const std::string& pfad, const DateiInfo& d) {
-    const ZahlText größe(d.Datei_Größe), bitrate(d.Header_Bitrate), dauer(d.Header_Dauer),
-        frequenz(d.Header_Frequenz), frames(d.Header_Frames), vbr(BoolAlsZahl(d.Header_VBR)), typ(d.Datei_Typ),
-        anzahl(d.Datei_AngefordertAnzahl), tagGröße(d.Mp3_ID3v2_TAGGröße);
+    const ZahlText größe(d.Datei_Größe), bitrate(d.Header_Bitrate), dauer(d.Header_Dauer), frequenz(d.Header_Frequenz),
+        frames(d.Header_Frames), vbr(BoolAlsZahl(d.Header_VBR)), typ(d.Datei_Typ), anzahl(d.Datei_AngefordertAnzahl),
+        tagGröße(d.Mp3_ID3v2_TAGGröße);
     const std::string genre = GenreAlsZahl(d.Mp3_ID3v1_Genre);
     const std::array<std::string_view, 41> wert = {
         "", pfad, d.Mp3_ID3v1_Album, d.Mp3_ID3v1_Interpret, d.Mp3_ID3v1_Kommentar, genre, d.Mp3_ID3v1_Titel,
-        d.Mp3_ID3v1_Track, d.Mp3_ID3v1_Jahr, größe.text, d.Datei_Wechselmedium, bitrate.text, dauer.text,
-        frequenz.text, frames.text, vbr.text, d.Datei_HinzugefügtAm, typ.text, d.Header_Modus, anzahl.text,
+        d.Mp3_ID3v1_Track, d.Mp3_ID3v1_Jahr, größe.text, d.Datei_Wechselmedium, bitrate.text, dauer.text, frequenz.text,
+        frames.text, vbr.text, d.Datei_HinzugefügtAm, typ.text, d.Header_Modus, anzahl.text,
         d.Datei_AngefordertGespieltAm,
         // ID3v2
-        d.Mp3_ID3v2_PCNT, d.Mp3_ID3v2_TALB, d.Mp3_ID3v2_TCOP, d.Mp3_ID3v2_TENC, d.Mp3_ID3v2_TCON,
-        d.Mp3_ID3v2_TPUB, d.Mp3_ID3v2_TPE1, d.Mp3_ID3v2_TYER, d.Mp3_ID3v2_COMM, d.Mp3_ID3v2_TLEN,
-        d.Mp3_ID3v2_WXXX, d.Mp3_ID3v2_TMED, d.Mp3_ID3v2_TSSE, d.Mp3_ID3v2_TCOM, d.Mp3_ID3v2_TLAN, tagGröße.text,
-        d.Mp3_ID3v2_Version, d.Mp3_ID3v2_TRCK, d.Mp3_ID3v2_TOPE, d.Mp3_ID3v2_TIT2};
+        d.Mp3_ID3v2_PCNT, d.Mp3_ID3v2_TALB, d.Mp3_ID3v2_TCOP, d.Mp3_ID3v2_TENC, d.Mp3_ID3v2_TCON, d.Mp3_ID3v2_TPUB,
+        d.Mp3_ID3v2_TPE1, d.Mp3_ID3v2_TYER, d.Mp3_ID3v2_COMM, d.Mp3_ID3v2_TLEN, d.Mp3_ID3v2_WXXX, d.Mp3_ID3v2_TMED,
+        d.Mp3_ID3v2_TSSE, d.Mp3_ID3v2_TCOM, d.Mp3_ID3v2_TLAN, tagGröße.text, d.Mp3_ID3v2_Version, d.Mp3_ID3v2_TRCK,
+        d.Mp3_ID3v2_TOPE, d.Mp3_ID3v2_TIT2};
     const int felder = d.Mp3_ID3v2_Status == 1 ? 40 : 20;
     aus.append("#TAG:");
     for (int i = 1; i <= felder; ++i) {
@@ -77,7 +77,8 @@ void DatensatzZeile(std::string& aus, const std::string& pfad, const DateiInfo& 
 // Schreibt über einen großen Puffer in die temporäre Datei; merkt sich den ersten Fehler.
 class Schreiber {
 public:
-    explicit Schreiber(const std::string& pfad) : fd_(::open(pfad.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644)) {
+    explicit Schreiber(const std::string& pfad)
+        : fd_(::open(pfad.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644)) {
         if (fd_ < 0) fehler_ = errno;
         puffer_.reserve(kPufferGröße + 64 * 1024);
     }
@@ -130,8 +131,8 @@ void OptionenSchreiben(Kartei& k, Schreiber& s) {
     s.Zeile("#OPT:SYNC_ENTFERNEN=", std::to_string(o.SyncEntfernen));
     if (!o.DateitypenLeer)
         for (int32_t i = 1; i <= o.DateitypEintrag.UBound(); ++i)
-            s.Zeile("#OPT:VERWALTEN=", o.DateitypEintrag[i] + "," +
-                                           (o.DateitypKlasse.GültigerIndex(i) ? o.DateitypKlasse[i] : ""));
+            s.Zeile("#OPT:VERWALTEN=",
+                    o.DateitypEintrag[i] + "," + (o.DateitypKlasse.GültigerIndex(i) ? o.DateitypKlasse[i] : ""));
     // Eine Liste ohne Spalten war nie eingerichtet; sie soll die gespeicherte Anordnung nicht löschen.
     if (!k.Liste.lstSongs.spalten.empty()) SpaltenSpeichern(k, k.Liste.lstSongs);
     s.Zeile("#OPT:SPALTEN_LEISTE=", std::to_string(o.SpaltenLeiste));
@@ -161,8 +162,8 @@ void TermineSchreiben(const IndexOptionen& o, Schreiber& s) {
 bool Fehlermeldung(Kartei& k, int fehler) {
     char text[256] = "";
     const char* beschreibung = ::strerror_r(fehler, text, sizeof text);
-    k.ui.MeldungZeigen("Es ist ein Fehler beim Speichern der Indexdatei aufgetreten. (Fehler " + std::to_string(fehler) +
-                           ")\n" + beschreibung,
+    k.ui.MeldungZeigen("Es ist ein Fehler beim Speichern der Indexdatei aufgetreten. (Fehler " +
+                           std::to_string(fehler) + ")\n" + beschreibung,
                        Meldung::Ausrufezeichen);
     FortschrittZeigenEnde(k);  // sonst bliebe das Hauptfenster gesperrt
     return false;

@@ -40,8 +40,14 @@ void DatumSetzen(std::string& ergebnis, const std::string& text, bool sortierFor
 
 int16_t Art(K kennung) {
     switch (kennung) {
-    case K::Nummer: case K::Track: case K::Titelnummer: case K::Größe: case K::Frames:
-    case K::AbspielHäufigkeit: case K::TrackV2: case K::TagGrößeV2: return IndexFeldArt::Zahl;
+    case K::Nummer:
+    case K::Track:
+    case K::Titelnummer:
+    case K::Größe:
+    case K::Frames:
+    case K::AbspielHäufigkeit:
+    case K::TrackV2:
+    case K::TagGrößeV2: return IndexFeldArt::Zahl;
     case K::HinzufügeDatum: return IndexFeldArt::Datum;
     case K::AbspielDatum: return IndexFeldArt::DatumZeit;
     case K::Dauer: return IndexFeldArt::Dauer;
@@ -75,8 +81,8 @@ const std::string* V2Feld(const DateiInfo& d, K kennung) {
 
 void Standardsuche(std::string& e, const DateiInfo& d, const std::string& pfad) {
     e.clear();
-    for (const std::string* teil : {&d.Mp3_ID3v2_TPE1, &d.Mp3_ID3v2_TIT2, &d.Mp3_ID3v1_Interpret,
-                                    &d.Mp3_ID3v1_Titel, &d.Mp3_ID3v1_Album})
+    for (const std::string* teil :
+         {&d.Mp3_ID3v2_TPE1, &d.Mp3_ID3v2_TIT2, &d.Mp3_ID3v1_Interpret, &d.Mp3_ID3v1_Titel, &d.Mp3_ID3v1_Album})
         e.append(*teil).push_back(' ');
     e.append(pfad);
 }
@@ -162,7 +168,12 @@ bool IndexFeldZurückgeben(const Kartei& k, int32_t nummer, const IndexFeld& fel
     case K::Dateiname: ergebnis.assign(DateinameAusPfadSicht(pfad)); break;
     case K::DateiEndung: ergebnis.assign(DateiEndungSicht(pfad)); break;
     case K::PfadDateiname: ergebnis.assign(pfad); break;
-    case K::Interpret: case K::Titel: case K::Album: case K::Jahr: case K::Kommentar: case K::Track:
+    case K::Interpret:
+    case K::Titel:
+    case K::Album:
+    case K::Jahr:
+    case K::Kommentar:
+    case K::Track:
         if (tag1) ergebnis.assign(*V1Feld(d, feld.kennung));
         break;
     case K::Titelnummer:
@@ -173,9 +184,11 @@ bool IndexFeldZurückgeben(const Kartei& k, int32_t nummer, const IndexFeld& fel
         if (tag1 && !d.Mp3_ID3v1_Genre.empty())
             ergebnis.assign(GenreName(static_cast<unsigned char>(d.Mp3_ID3v1_Genre[0])));
         break;
-    case K::Größe: case K::Bitrate: case K::Dauer: case K::Frequenz: case K::Frames:
-        TechnikFeld(ergebnis, d, feld.kennung);
-        break;
+    case K::Größe:
+    case K::Bitrate:
+    case K::Dauer:
+    case K::Frequenz:
+    case K::Frames: TechnikFeld(ergebnis, d, feld.kennung); break;
     case K::Wechselmedium: ergebnis.assign(d.Datei_Wechselmedium); break;
     case K::HinzufügeDatum: DatumSetzen(ergebnis, d.Datei_HinzugefügtAm, sortierForm, false); break;
     case K::AbspielDatum: DatumSetzen(ergebnis, d.Datei_AngefordertGespieltAm, sortierForm, true); break;
@@ -185,7 +198,11 @@ bool IndexFeldZurückgeben(const Kartei& k, int32_t nummer, const IndexFeld& fel
             ergebnis.assign(DateinamenFormatieren(k, k.Optionen.SpaltenNutzerformat, nummer, tiefe + 1));
         break;
     case K::Muster: ergebnis.assign(DateinamenFormatieren(k, feld.muster, nummer, tiefe + 1)); break;
-    case K::InterpretV2: case K::TitelV2: case K::AlbumV2: case K::JahrV2: case K::KommentarV2:
+    case K::InterpretV2:
+    case K::TitelV2:
+    case K::AlbumV2:
+    case K::JahrV2:
+    case K::KommentarV2:
         if (tag2) ergebnis.assign(*V2Feld(d, feld.kennung));
         break;
     case K::TrackV2:

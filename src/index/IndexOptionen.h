@@ -33,7 +33,7 @@ struct IndexOptionen {
     bool DateitypenLeer = true;
 
     // Spalten der Hauptliste.
-    std::string Spalten = "0";                       // Spaltenbeschreibung "n=Breite=Position,..."
+    std::string Spalten = "0";  // Spaltenbeschreibung "n=Breite=Position,..."
     std::string SpaltenNutzerformat = "%Interpret% - %Titel%";
     int16_t SpaltenLeiste = 1;
     int16_t SpaltenGitter = 0;  // wird beim Laden nicht zurückgesetzt

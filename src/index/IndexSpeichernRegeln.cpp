@@ -19,7 +19,8 @@ bool RegelmäßigSpeichernPrüfen(Kartei& k) {
 SchließenAktion SpeichernVorSchließenFragen(Kartei& k) {
     if (!k.DateiGeändert) return SchließenAktion::OhneSpeichern;
     if (k.E.DateiAutomatischSpeichern == 1) return SchließenAktion::Speichern;
-    switch (k.ui.MeldungZeigen("Die Indexdatei wurde geändert.\nMöchten Sie diese speichern?", Meldung::JaNeinAbbrechen)) {
+    switch (
+        k.ui.MeldungZeigen("Die Indexdatei wurde geändert.\nMöchten Sie diese speichern?", Meldung::JaNeinAbbrechen)) {
     case Meldung::Ja: return SchließenAktion::Speichern;
     case Meldung::Nein: return SchließenAktion::OhneSpeichern;
     default: return SchließenAktion::Abbrechen;

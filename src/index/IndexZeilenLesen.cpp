@@ -14,15 +14,46 @@ namespace {
 using Text = std::string DateiInfo::*;
 constexpr Text kTextFeld[IndexGrößenPlätze] = {
     nullptr,  // 0 gibt es nicht
-    nullptr, &DateiInfo::Mp3_ID3v1_Album, &DateiInfo::Mp3_ID3v1_Interpret, &DateiInfo::Mp3_ID3v1_Kommentar,
-    nullptr, &DateiInfo::Mp3_ID3v1_Titel, &DateiInfo::Mp3_ID3v1_Track, &DateiInfo::Mp3_ID3v1_Jahr,
-    nullptr, &DateiInfo::Datei_Wechselmedium, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
-    &DateiInfo::Header_Modus, nullptr, nullptr,
-    &DateiInfo::Mp3_ID3v2_PCNT, &DateiInfo::Mp3_ID3v2_TALB, &DateiInfo::Mp3_ID3v2_TCOP, &DateiInfo::Mp3_ID3v2_TENC,
-    &DateiInfo::Mp3_ID3v2_TCON, &DateiInfo::Mp3_ID3v2_TPUB, &DateiInfo::Mp3_ID3v2_TPE1, &DateiInfo::Mp3_ID3v2_TYER,
-    &DateiInfo::Mp3_ID3v2_COMM, &DateiInfo::Mp3_ID3v2_TLEN, &DateiInfo::Mp3_ID3v2_WXXX, &DateiInfo::Mp3_ID3v2_TMED,
-    &DateiInfo::Mp3_ID3v2_TSSE, &DateiInfo::Mp3_ID3v2_TCOM, &DateiInfo::Mp3_ID3v2_TLAN, nullptr,
-    &DateiInfo::Mp3_ID3v2_Version, &DateiInfo::Mp3_ID3v2_TRCK, &DateiInfo::Mp3_ID3v2_TOPE, &DateiInfo::Mp3_ID3v2_TIT2,
+    nullptr,
+    &DateiInfo::Mp3_ID3v1_Album,
+    &DateiInfo::Mp3_ID3v1_Interpret,
+    &DateiInfo::Mp3_ID3v1_Kommentar,
+    nullptr,
+    &DateiInfo::Mp3_ID3v1_Titel,
+    &DateiInfo::Mp3_ID3v1_Track,
+    &DateiInfo::Mp3_ID3v1_Jahr,
+    nullptr,
+    &DateiInfo::Datei_Wechselmedium,
+    nullptr,
+    nullptr,
+    nullptr,
+    nullptr,
+    nullptr,
+    nullptr,
+    nullptr,
+    &DateiInfo::Header_Modus,
+    nullptr,
+    nullptr,
+    &DateiInfo::Mp3_ID3v2_PCNT,
+    &DateiInfo::Mp3_ID3v2_TALB,
+    &DateiInfo::Mp3_ID3v2_TCOP,
+    &DateiInfo::Mp3_ID3v2_TENC,
+    &DateiInfo::Mp3_ID3v2_TCON,
+    &DateiInfo::Mp3_ID3v2_TPUB,
+    &DateiInfo::Mp3_ID3v2_TPE1,
+    &DateiInfo::Mp3_ID3v2_TYER,
+    &DateiInfo::Mp3_ID3v2_COMM,
+    &DateiInfo::Mp3_ID3v2_TLEN,
+    &DateiInfo::Mp3_ID3v2_WXXX,
+    &DateiInfo::Mp3_ID3v2_TMED,
+    &DateiInfo::Mp3_ID3v2_TSSE,
+    &DateiInfo::Mp3_ID3v2_TCOM,
+    &DateiInfo::Mp3_ID3v2_TLAN,
+    nullptr,
+    &DateiInfo::Mp3_ID3v2_Version,
+    &DateiInfo::Mp3_ID3v2_TRCK,
+    &DateiInfo::Mp3_ID3v2_TOPE,
+    &DateiInfo::Mp3_ID3v2_TIT2,
 };
 
 template <typename T> void GanzzahlFeld(T& ziel, std::string_view wert) {
@@ -118,7 +149,8 @@ void GrößeEintragen(Größenliste& g, int32_t feld, std::string_view zahl, int
     if (zahl.empty()) zahl = "0";
     int32_t größe = 0;
     if (feld > IndexGrößenPlätze) {
-        KK_TRACE("DateiLaden", "Feld " + std::to_string(feld) + " reicht über Indexgrenzen hinaus ('" + std::string(zahl) + "')");
+        KK_TRACE("DateiLaden",
+                 "Feld " + std::to_string(feld) + " reicht über Indexgrenzen hinaus ('" + std::string(zahl) + "')");
     } else if (!LongLesen(zahl, größe)) {
         KK_TRACE("DateiLaden", "Feld " + std::to_string(feld) + " ist nicht numerisch ('" + std::string(zahl) + "')");
     } else if (größe < -1 || größe > 1000) {
@@ -184,7 +216,8 @@ void DatensatzFelderLesen(std::string_view zeile, const Größenliste& g, std::s
         }
         if (wert.empty()) continue;
         const size_t ende = pos < zeile.size() ? pos : zeile.size();
-        const bool utf8 = zeileUtf8 && !IstFolgebyte(wert.front()) && (ende == zeile.size() || !IstFolgebyte(zeile[ende]));
+        const bool utf8 =
+            zeileUtf8 && !IstFolgebyte(wert.front()) && (ende == zeile.size() || !IstFolgebyte(zeile[ende]));
         FeldLesen(feld, wert, utf8, pfad, d);
     }
 }
@@ -193,7 +226,8 @@ void OptionZeileLesen(IndexOptionen& o, std::string_view zeile) {
     std::string_view rest;
     EinsBasiert<std::string> teile;
     if (Beginnt(zeile, "#OPT:SYNC=", rest)) {
-        const int32_t n = ListenZeileAnhängen(o.SyncLeer, o.SyncOrdner.UBound(), o.SyncOrdner, o.SyncUnterordner, o.SyncKopierenInOrdner);
+        const int32_t n = ListenZeileAnhängen(o.SyncLeer, o.SyncOrdner.UBound(), o.SyncOrdner, o.SyncUnterordner,
+                                              o.SyncKopierenInOrdner);
         TextZerlegen(DateiTextLesen(rest), 1, 3, ",", teile);
         if (!teile[1].empty()) o.SyncOrdner[n] = teile[1];
         if (teile.UBound() >= 2) GanzzahlFeld(o.SyncUnterordner[n], teile[2]);
@@ -201,7 +235,8 @@ void OptionZeileLesen(IndexOptionen& o, std::string_view zeile) {
     } else if (Beginnt(zeile, "#OPT:SYNC_ENTFERNEN=", rest)) {
         Ziffer(rest, o.SyncEntfernen);
     } else if (Beginnt(zeile, "#OPT:VERWALTEN=", rest)) {
-        const int32_t n = ListenZeileAnhängen(o.DateitypenLeer, o.DateitypEintrag.UBound(), o.DateitypEintrag, o.DateitypKlasse);
+        const int32_t n =
+            ListenZeileAnhängen(o.DateitypenLeer, o.DateitypEintrag.UBound(), o.DateitypEintrag, o.DateitypKlasse);
         TextZerlegen(DateiTextLesen(rest), 1, 2, ",", teile);
         if (teile.UBound() == 2) {
             o.DateitypEintrag[n] = teile[1];

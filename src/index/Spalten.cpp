@@ -16,21 +16,36 @@ struct SpaltenZeile {
     int32_t breite;
 };
 const std::array<SpaltenZeile, SpaltenAnzahl> kSpalten = {{
-    {"Nummer", 0},          {"Pfad", 0},
-    {"Dateiname", 1400},    {"Interpret", 1400},
-    {"Titel", 1400},        {"Album", 1400},
-    {"Jahr", 0},            {"Track", 0},
-    {"Genre", 0},           {"Kommentar", 0},
-    {"Größe", 0},           {"Bitrate", 0},
-    {"Dauer", 0},           {"Frequenz", 0},
-    {"Frames", 0},          {"Wechselmedium", 0},
-    {"Hinzufüge-Datum", 0}, {"Pfad+Dateiname", 0},
-    {"Benutzerdefiniert", 0}, {"Abspiel-Datum", 0},
-    {"Abspiel-Häufigkeit", 0}, {"Interpret-ID3v2", 0},
-    {"Titel-ID3v2", 0},     {"Album-ID3v2", 0},
-    {"Jahr-ID3v2", 0},      {"Track-ID3v2", 0},
-    {"Genre-ID3v2", 0},     {"Kommentar-ID3v2", 0},
-    {"ID3v2-TAG-Version", 0}, {"ID3v2-TAG-Größe", 0},
+    {"Nummer", 0},
+    {"Pfad", 0},
+    {"Dateiname", 1400},
+    {"Interpret", 1400},
+    {"Titel", 1400},
+    {"Album", 1400},
+    {"Jahr", 0},
+    {"Track", 0},
+    {"Genre", 0},
+    {"Kommentar", 0},
+    {"Größe", 0},
+    {"Bitrate", 0},
+    {"Dauer", 0},
+    {"Frequenz", 0},
+    {"Frames", 0},
+    {"Wechselmedium", 0},
+    {"Hinzufüge-Datum", 0},
+    {"Pfad+Dateiname", 0},
+    {"Benutzerdefiniert", 0},
+    {"Abspiel-Datum", 0},
+    {"Abspiel-Häufigkeit", 0},
+    {"Interpret-ID3v2", 0},
+    {"Titel-ID3v2", 0},
+    {"Album-ID3v2", 0},
+    {"Jahr-ID3v2", 0},
+    {"Track-ID3v2", 0},
+    {"Genre-ID3v2", 0},
+    {"Kommentar-ID3v2", 0},
+    {"ID3v2-TAG-Version", 0},
+    {"ID3v2-TAG-Größe", 0},
 }};
 
 std::string Posten(int32_t nummer, int32_t breite, int32_t position) {
@@ -50,8 +65,7 @@ bool PostenLesen(const std::string& text, SpaltenPosten& p) {
 
 std::string Kopftext(const Kartei& k, int32_t nummer) {
     // Die benutzerdefinierte Spalte trägt ihr Muster ohne "%" als Überschrift.
-    return nummer == SpalteBenutzerdefiniert ? Ersetzen(k.Optionen.SpaltenNutzerformat, "%", "")
-                                             : SpaltenName(nummer);
+    return nummer == SpalteBenutzerdefiniert ? Ersetzen(k.Optionen.SpaltenNutzerformat, "%", "") : SpaltenName(nummer);
 }
 }  // namespace
 
@@ -149,9 +163,8 @@ void SpaltenSpeichern(Kartei& k, const Ergebnisliste& liste) {
         auto da = std::find_if(liste.spalten.begin(), liste.spalten.end(),
                                [&](const ListenSpalte& s) { return s.spalte == i; });
         if (i > 1) beschreibung += ",";
-        beschreibung += da == liste.spalten.end()
-                            ? Posten(i, 0, 0)
-                            : Posten(i, da->breite, int32_t(da - liste.spalten.begin()) + 1);
+        beschreibung += da == liste.spalten.end() ? Posten(i, 0, 0)
+                                                  : Posten(i, da->breite, int32_t(da - liste.spalten.begin()) + 1);
     }
     if (beschreibung != k.Optionen.Spalten) DateiGeändertSetzen(k);
     k.Optionen.Spalten = beschreibung;

@@ -9,8 +9,8 @@ namespace {
 bool KlasseHat(const std::string& klasse, size_t i) { return klasse.size() >= i && klasse[i - 1] == '1'; }
 }  // namespace
 
-bool DateiFormatUnterstützt(Kartei& k, const std::string& datei, bool keineVideos, bool keineAudios,
-                            bool keineBilder, bool nurFreigegebene) {
+bool DateiFormatUnterstützt(Kartei& k, const std::string& datei, bool keineVideos, bool keineAudios, bool keineBilder,
+                            bool nurFreigegebene) {
     const IndexOptionen& o = k.Optionen;
     const std::string endung = Klein(DateiEndung(datei));
     const int32_t anzahl = o.DateitypenLeer ? 0 : o.DateitypEintrag.UBound();

@@ -8,5 +8,5 @@ struct Kartei;
 // sagt (die Klasse "110" heißt MPEG-Audio und Audio, "001" Bild). nurFreigegebene: nur Typen
 // mit "=1"; eine unbekannte Endung gilt dann genau, wenn die Tabelle "*=1" enthält. Ohne
 // nurFreigegebene ist eine unbekannte Endung nie unterstützt.
-bool DateiFormatUnterstützt(Kartei& k, const std::string& datei, bool keineVideos, bool keineAudios,
-                            bool keineBilder, bool nurFreigegebene);
+bool DateiFormatUnterstützt(Kartei& k, const std::string& datei, bool keineVideos, bool keineAudios, bool keineBilder,
+                            bool nurFreigegebene);

@@ -17,7 +17,8 @@ namespace {
 constexpr const char* kAbgebrochen = "Hinzufügen abgebrochen";
 
 void OrdnerFehltMelden(Kartei& k, const std::string& ordner) {
-    k.ui.MeldungZeigen("Beim Hinzufügen des Ordners '" + ordner + "' ist ein Fehler aufgetreten: \n"
+    k.ui.MeldungZeigen("Beim Hinzufügen des Ordners '" + ordner +
+                           "' ist ein Fehler aufgetreten: \n"
                            "Der Ordner existiert nicht oder ist kein gültiger Ordnername.\n\n"
                            "Ändern Sie den Ordner-Namen in den Optionen und stellen sie sicher, daß sich dieser "
                            "Ordner auf einem Datenträger befindet, auf den Zugriff möglich ist.",
@@ -118,12 +119,10 @@ void DragDropVerarbeiten(Kartei& k, const EinsBasiert<std::string>& pfade) {
     for (const std::string& pfad : pfade) {
         // Genau so geschrieben: "LISTE.M3U" ist eine gewöhnliche Datei.
         const std::string ende = Right(pfad, 4);
-        if (ende == ".m3u" || ende == ".pls")
-            PlayListLesen(k, pfad, false, false, false);
+        if (ende == ".m3u" || ende == ".pls") PlayListLesen(k, pfad, false, false, false);
         else if (IstOrdner(pfad))
             EinfachOrdnerHinzufügen(k, pfad, true, k.E.HinzufügenUnterordner, false, "", false, false);
-        else if (DoesExist(pfad))
-            dateien.Anhängen(pfad);
+        else if (DoesExist(pfad)) dateien.Anhängen(pfad);
     }
     if (dateien.UBound() > 0) EinfachDateiHinzufügen(k, dateien, false, false, false);
     const int32_t neu = k.DateiAnzahl - vorher;

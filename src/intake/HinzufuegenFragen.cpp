@@ -36,8 +36,8 @@ void DateienHinzufügenFragen(Kartei& k) {
                            Meldung::Information);
         return;
     }
-    const std::string filter = "Unterstützte Dateiformate (" + masken + ")|" + Ersetzen(masken, ",", ";") +
-                               "|Alle Dateien (*.*)|*.*";
+    const std::string filter =
+        "Unterstützte Dateiformate (" + masken + ")|" + Ersetzen(masken, ",", ";") + "|Alle Dateien (*.*)|*.*";
     std::vector<std::string> gewählt;
     if (!k.ui.DateienWählen("", filter, gewählt)) return;  // abgebrochen: still
     if (gewählt.empty()) {
@@ -59,8 +59,9 @@ void OrdnerHinzufügenFragen(Kartei& k) {
 
 void PlaylisteImportierenFragen(Kartei& k) {
     std::vector<std::string> gewählt;
-    if (!k.ui.DateienWählen("", "Alle bekannten Playlisten (*.m3u,*.pls)|*.pls;*.m3u|PLS-Playlisten (*.pls)|*.pls|"
-                                "M3U-Playlisten (*.m3u)|*.m3u|Alle Dateien (*.*)|*.*",
+    if (!k.ui.DateienWählen("",
+                            "Alle bekannten Playlisten (*.m3u,*.pls)|*.pls;*.m3u|PLS-Playlisten (*.pls)|*.pls|"
+                            "M3U-Playlisten (*.m3u)|*.m3u|Alle Dateien (*.*)|*.*",
                             gewählt) ||
         gewählt.empty())
         return;

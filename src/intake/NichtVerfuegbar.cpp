@@ -28,10 +28,8 @@ int16_t Fragen(Kartei& k, const std::string& pfad, const std::string& wurzel, co
 
 std::string NichtVerfügbarText(const std::string& pfad, const std::string& wurzel, const std::string& bezeichnung) {
     std::string text = "Die Datei '" + pfad + "' ist zurzeit nicht verfügbar.\n";
-    if (bezeichnung.empty())
-        text += "Bitte legen Sie den Quelldatenträger in Laufwerk '" + wurzel + kEnde;
-    else
-        text += "Bitte legen Sie den Datenträger '" + bezeichnung + "' in Laufwerk '" + wurzel + kEnde;
+    if (bezeichnung.empty()) text += "Bitte legen Sie den Quelldatenträger in Laufwerk '" + wurzel + kEnde;
+    else text += "Bitte legen Sie den Datenträger '" + bezeichnung + "' in Laufwerk '" + wurzel + kEnde;
     return text;
 }
 

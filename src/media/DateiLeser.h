@@ -31,7 +31,7 @@ private:
     int fd_ = -1;
     int64_t länge_ = -1;
     std::time_t änderung_ = 0;
-    std::string anfang_;   // gepufferter Dateianfang
+    std::string anfang_;  // gepufferter Dateianfang
     bool anfangFehler_ = false;
-    std::string stück_;    // zuletzt gelesenes Stück außerhalb des Anfangs
+    std::string stück_;  // zuletzt gelesenes Stück außerhalb des Anfangs
 };

@@ -47,9 +47,9 @@ std::string Feld(const std::string& tag, int32_t pos, int32_t länge) {
 
 void Id3v1FelderAufteilen(const std::string& tag, DateiInfo& info, bool zeilenumbrücheLassen) {
     if (tag.empty()) {
-        for (auto* feld : {&info.Mp3_ID3v1_TAG, &info.Mp3_ID3v1_Titel, &info.Mp3_ID3v1_Interpret,
-                           &info.Mp3_ID3v1_Album, &info.Mp3_ID3v1_Jahr, &info.Mp3_ID3v1_Kommentar,
-                           &info.Mp3_ID3v1_Track, &info.Mp3_ID3v1_Genre})
+        for (auto* feld :
+             {&info.Mp3_ID3v1_TAG, &info.Mp3_ID3v1_Titel, &info.Mp3_ID3v1_Interpret, &info.Mp3_ID3v1_Album,
+              &info.Mp3_ID3v1_Jahr, &info.Mp3_ID3v1_Kommentar, &info.Mp3_ID3v1_Track, &info.Mp3_ID3v1_Genre})
             feld->clear();
         info.Mp3_ID3v1_Status = 2;
         return;
@@ -130,8 +130,8 @@ std::string TAGAusFeldernZusammensetzen(const Id3v1Felder& f) {
 
 bool Mp3TAGSpeichernV1Datei(const std::string& dateiname, const std::string& tag, std::string& fehlertext) {
     if (!DoesExist(dateiname)) {
-        fehlertext = "Die ID3v1-TAG der Datei '" + dateiname +
-                     "' konnte nicht gespeichert werden.\nDie Datei existiert nicht.";
+        fehlertext =
+            "Die ID3v1-TAG der Datei '" + dateiname + "' konnte nicht gespeichert werden.\nDie Datei existiert nicht.";
         return false;
     }
     int64_t länge = 0, position = 0;
@@ -180,7 +180,8 @@ bool TAGEntfernen(Kartei& k, DateiInfo& rückgabe, const std::string& dateiname,
     const std::string neu = dateiname + "-neu";
     if (DoesExist(neu) && !DateiLöschenErzwingen(neu)) {
         k.ui.MeldungZeigen("Der ID3v1-TAG konnte nicht entfernt werden.\nDie Datei '" + neu +
-                               "' konnte nicht gespeichert werden.", Meldung::Ausrufezeichen);
+                               "' konnte nicht gespeichert werden.",
+                           Meldung::Ausrufezeichen);
         return false;
     }
     const auto ergebnis = DateiNeuSchreiben(dateiname, neu, {}, 0, DateiRest{dateiname, {{0, länge - 128}}});

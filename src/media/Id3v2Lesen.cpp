@@ -32,23 +32,23 @@ bool Mp3TAGLesenV2GrößeLesen(std::string_view bytes, int32_t& größe, bool ni
 
 namespace {
 struct BekannterRahmen {
-    const char* id;     // 2.3 und 2.4
-    const char* id22;   // 2.2, "" wenn es keinen gibt
+    const char* id;    // 2.3 und 2.4
+    const char* id22;  // 2.2, "" wenn es keinen gibt
     std::string DateiInfo::*feld;
 };
 const BekannterRahmen kRahmen[] = {
-    {"PCNT", "", &DateiInfo::Mp3_ID3v2_PCNT},     {"TRCK", "TRK", &DateiInfo::Mp3_ID3v2_TRCK},
-    {"TENC", "TEN", &DateiInfo::Mp3_ID3v2_TENC},  {"WXXX", "", &DateiInfo::Mp3_ID3v2_WXXX},
-    {"TCOP", "TCR", &DateiInfo::Mp3_ID3v2_TCOP},  {"TOPE", "TOA", &DateiInfo::Mp3_ID3v2_TOPE},
-    {"TCOM", "TCM", &DateiInfo::Mp3_ID3v2_TCOM},  {"TCON", "TCO", &DateiInfo::Mp3_ID3v2_TCON},
-    {"COMM", "COM", &DateiInfo::Mp3_ID3v2_COMM},  {"TYER", "TYE", &DateiInfo::Mp3_ID3v2_TYER},
-    {"TALB", "TAL", &DateiInfo::Mp3_ID3v2_TALB},  {"TPE1", "TP1", &DateiInfo::Mp3_ID3v2_TPE1},
-    {"TIT2", "TT2", &DateiInfo::Mp3_ID3v2_TIT2},  {"TLAN", "TLA", &DateiInfo::Mp3_ID3v2_TLAN},
-    {"TLEN", "", &DateiInfo::Mp3_ID3v2_TLEN},     {"TMED", "TMT", &DateiInfo::Mp3_ID3v2_TMED},
-    {"TPUB", "", &DateiInfo::Mp3_ID3v2_TPUB},     {"TSSE", "TSS", &DateiInfo::Mp3_ID3v2_TSSE},
+    {"PCNT", "", &DateiInfo::Mp3_ID3v2_PCNT},    {"TRCK", "TRK", &DateiInfo::Mp3_ID3v2_TRCK},
+    {"TENC", "TEN", &DateiInfo::Mp3_ID3v2_TENC}, {"WXXX", "", &DateiInfo::Mp3_ID3v2_WXXX},
+    {"TCOP", "TCR", &DateiInfo::Mp3_ID3v2_TCOP}, {"TOPE", "TOA", &DateiInfo::Mp3_ID3v2_TOPE},
+    {"TCOM", "TCM", &DateiInfo::Mp3_ID3v2_TCOM}, {"TCON", "TCO", &DateiInfo::Mp3_ID3v2_TCON},
+    {"COMM", "COM", &DateiInfo::Mp3_ID3v2_COMM}, {"TYER", "TYE", &DateiInfo::Mp3_ID3v2_TYER},
+    {"TALB", "TAL", &DateiInfo::Mp3_ID3v2_TALB}, {"TPE1", "TP1", &DateiInfo::Mp3_ID3v2_TPE1},
+    {"TIT2", "TT2", &DateiInfo::Mp3_ID3v2_TIT2}, {"TLAN", "TLA", &DateiInfo::Mp3_ID3v2_TLAN},
+    {"TLEN", "", &DateiInfo::Mp3_ID3v2_TLEN},    {"TMED", "TMT", &DateiInfo::Mp3_ID3v2_TMED},
+    {"TPUB", "", &DateiInfo::Mp3_ID3v2_TPUB},    {"TSSE", "TSS", &DateiInfo::Mp3_ID3v2_TSSE},
 };
 
-std::string DateiInfo::* RahmenFeld(std::string_view id, bool v22) {
+std::string DateiInfo::*RahmenFeld(std::string_view id, bool v22) {
     for (const auto& r : kRahmen)
         if (id == (v22 ? r.id22 : r.id) && !id.empty()) return r.feld;
     return nullptr;
@@ -161,8 +161,7 @@ bool Mp3TAGLesenV2(DateiLeser& datei, DateiInfo& info, int32_t bytesSuchen) {
     std::string_view rest = fenster.substr(std::min(anfang, fenster.size()));
 
     Durchlauf d{info, major == 2, zähler};
-    while (RahmenLesen(d, rest)) {
-    }
+    while (RahmenLesen(d, rest)) {}
     info.Mp3_ID3v2_Status = 1;
     return true;
 }

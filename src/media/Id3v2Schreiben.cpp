@@ -40,8 +40,8 @@ std::string Mp3TAGSpeichernV2FrameHeaderZurückgeben(int32_t größe, const std:
     return id + VierBytes(ZahlZuBitString(größe, 4)) + std::string(2, '\0');
 }
 
-bool V2FrameAnhängen(const std::string& text, const std::string& id, int32_t& anzahl,
-                     EinsBasiert<std::string>& frames, bool immerSchreiben) {
+bool V2FrameAnhängen(const std::string& text, const std::string& id, int32_t& anzahl, EinsBasiert<std::string>& frames,
+                     bool immerSchreiben) {
     if (text.empty() && !immerSchreiben) return true;
     if (anzahl + 1 > frames.UBound()) return false;
     const std::string inhalt = Utf8ZuWindows1252(text);
@@ -62,13 +62,15 @@ bool RahmenBauen(const DateiInfo& d, std::string& rahmen) {
         const char* id;
         bool immer;
     } liste[] = {
-        {d.Mp3_ID3v2_PCNT, "PCNT", false}, {d.Mp3_ID3v2_TRCK, "TRCK", false}, {d.Mp3_ID3v2_TENC, "TENC", false},
-        {sprache(d.Mp3_ID3v2_WXXX), "WXXX", false}, {d.Mp3_ID3v2_TCOP, "TCOP", false},
-        {d.Mp3_ID3v2_TOPE, "TOPE", false}, {d.Mp3_ID3v2_TCOM, "TCOM", false}, {d.Mp3_ID3v2_TCON, "TCON", false},
+        {d.Mp3_ID3v2_PCNT, "PCNT", false},          {d.Mp3_ID3v2_TRCK, "TRCK", false},
+        {d.Mp3_ID3v2_TENC, "TENC", false},          {sprache(d.Mp3_ID3v2_WXXX), "WXXX", false},
+        {d.Mp3_ID3v2_TCOP, "TCOP", false},          {d.Mp3_ID3v2_TOPE, "TOPE", false},
+        {d.Mp3_ID3v2_TCOM, "TCOM", false},          {d.Mp3_ID3v2_TCON, "TCON", false},
         {sprache(d.Mp3_ID3v2_COMM), "COMM", false}, {d.Mp3_ID3v2_TYER, "TYER", false},
-        {d.Mp3_ID3v2_TALB, "TALB", false}, {d.Mp3_ID3v2_TPE1, "TPE1", true}, {d.Mp3_ID3v2_TIT2, "TIT2", true},
-        {d.Mp3_ID3v2_TLAN, "TLAN", false}, {d.Mp3_ID3v2_TLEN, "TLEN", false}, {d.Mp3_ID3v2_TMED, "TMED", false},
-        {d.Mp3_ID3v2_TPUB, "TPUB", false}, {d.Mp3_ID3v2_TSSE, "TSSE", false},
+        {d.Mp3_ID3v2_TALB, "TALB", false},          {d.Mp3_ID3v2_TPE1, "TPE1", true},
+        {d.Mp3_ID3v2_TIT2, "TIT2", true},           {d.Mp3_ID3v2_TLAN, "TLAN", false},
+        {d.Mp3_ID3v2_TLEN, "TLEN", false},          {d.Mp3_ID3v2_TMED, "TMED", false},
+        {d.Mp3_ID3v2_TPUB, "TPUB", false},          {d.Mp3_ID3v2_TSSE, "TSSE", false},
         {d.Mp3_ID3v2_PCNT, "PCNT", false},  // ein zweites Mal: beim Lesen gewinnt der letzte
     };
     for (const auto& r : liste)
@@ -144,8 +146,8 @@ bool Neuschreiben(const std::string& pfad, const std::string& vorn, int64_t padd
 bool MP3TagSpeichernV2Datei(Kartei& k, const std::string& dateiname, std::string& fehlertext, const DateiInfo& info,
                             int32_t eintrag) {
     if (!DoesExist(dateiname)) {
-        fehlertext = "Die ID3v2-TAG der Datei '" + dateiname +
-                     "' konnte nicht gespeichert werden.\nDie Datei existiert nicht.";
+        fehlertext =
+            "Die ID3v2-TAG der Datei '" + dateiname + "' konnte nicht gespeichert werden.\nDie Datei existiert nicht.";
         return false;
     }
     std::string rahmen;
@@ -221,7 +223,8 @@ bool TAGEntfernenV2(Kartei& k, const std::string& dateiname, int32_t eintrag, bo
     const std::string neu = dateiname + "-neu";
     if (DoesExist(neu) && !DateiLöschenErzwingen(neu)) {
         k.ui.MeldungZeigen("Der ID3v2-TAG konnte nicht entfernt werden.\nDie Datei '" + neu +
-                               "' konnte nicht erstellt werden.", Meldung::Ausrufezeichen);
+                               "' konnte nicht erstellt werden.",
+                           Meldung::Ausrufezeichen);
         return false;
     }
     rest = RestOhneTag(dateiname, DateiGrößeLesen(dateiname), datensatz.Mp3_ID3v2_TAGPosition,

@@ -17,15 +17,15 @@ std::string Mp3TAGSpeichernV2TAGHeaderZurückgeben(int32_t größe);
 std::string Mp3TAGSpeichernV2FrameHeaderZurückgeben(int32_t größe, const std::string& id);
 // Hängt einen Textrahmen (Kodierungsbyte 0 + text, Windows-1252) an, wenn text nicht leer ist
 // oder immerSchreiben gilt. Die Liste hat 19 Plätze; false, wenn kein Platz mehr frei ist.
-bool V2FrameAnhängen(const std::string& text, const std::string& id, int32_t& anzahl,
-                     EinsBasiert<std::string>& frames, bool immerSchreiben);
+bool V2FrameAnhängen(const std::string& text, const std::string& id, int32_t& anzahl, EinsBasiert<std::string>& frames,
+                     bool immerSchreiben);
 
 // Schreibt den Tag. index ist eine Zeile (ab 1) der Ergebnisliste; die Datei-Form nimmt den
 // Pfad und den Tabelleneintrag (0 = keiner), den das Entfernen eines alten Tags auffrischt.
 // Bei false steht die Meldung in fehlertext; die Datei ist dann unverändert.
 bool MP3TagSpeichernV2(Kartei& k, int32_t index, std::string& fehlertext, const DateiInfo& info);
-bool MP3TagSpeichernV2Datei(Kartei& k, const std::string& dateiname, std::string& fehlertext,
-                            const DateiInfo& info, int32_t eintrag = 0);
+bool MP3TagSpeichernV2Datei(Kartei& k, const std::string& dateiname, std::string& fehlertext, const DateiInfo& info,
+                            int32_t eintrag = 0);
 
 // Entfernt den Tag über dateiname + "-neu". Mit nurZurückgeben bleibt die Datei, wie sie ist, und
 // rest nennt, was ohne den Tag von ihr bleibt. eintrag (ab 1, 0 = keiner) erhält die

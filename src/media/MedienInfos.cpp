@@ -34,16 +34,15 @@ void TypSetzen(Kartei& k, const std::string& pfad, DateiInfo& info) {
 
 // Tag der letzten Änderung in Ortszeit; false, wenn er sich nicht bilden lässt.
 bool Dateidatum(std::time_t zeit, Datum& datum) {
-    std::tm t {};
+    std::tm t{};
     if (!localtime_r(&zeit, &t)) return false;
     datum = Datum{t.tm_year + 1900, t.tm_mon + 1, t.tm_mday, t.tm_hour, t.tm_min, t.tm_sec};
     return IstGültigesDatum(datum.Jahr, datum.Monat, datum.Tag) && datum.Jahr >= 100 && datum.Jahr <= 9999;
 }
 }  // namespace
 
-DateiInfo MedienInfosLesen(Kartei& k, const std::string& dateiname, const DateiInfo& info,
-                           const std::string& tagFlags, bool zeilenumbrücheLassen, const std::string& kopfLesen,
-                           const std::string& größeLesen) {
+DateiInfo MedienInfosLesen(Kartei& k, const std::string& dateiname, const DateiInfo& info, const std::string& tagFlags,
+                           bool zeilenumbrücheLassen, const std::string& kopfLesen, const std::string& größeLesen) {
     DateiInfo r = info;
     // Die Datei wird einmal geöffnet; alle Leser teilen sich den gepufferten Anfang.
     DateiLeser datei(dateiname);

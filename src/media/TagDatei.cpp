@@ -71,7 +71,13 @@ int64_t DateiRest::Länge() const {
 bool DateiRestLesen(const DateiRest& rest, std::string& inhalt) {
     inhalt.clear();
     int fehler = 0;
-    return BereicheKopieren(rest, [&](const char* d, size_t n) { inhalt.append(d, n); return true; }, fehler);
+    return BereicheKopieren(
+        rest,
+        [&](const char* d, size_t n) {
+            inhalt.append(d, n);
+            return true;
+        },
+        fehler);
 }
 
 namespace {
@@ -187,10 +193,12 @@ bool TagEntfernenErgebnisMelden(Kartei& k, const char* version, const std::strin
     const std::string v = version;
     if (e.schritt == NeuSchreibenSchritt::Ersetzen)
         k.ui.MeldungZeigen("Der " + v + "-TAG konnte nicht entfernt werden.\nDie Datei '" + dateiname +
-                               "' konnte nicht ersetzt werden.", Meldung::Ausrufezeichen);
+                               "' konnte nicht ersetzt werden.",
+                           Meldung::Ausrufezeichen);
     else
         k.ui.MeldungZeigen("Die Entfernung des " + v + "-TAGs der Datei '" + dateiname +
                                "' konnte nicht abgeschlossen werden.\nStellen Sie sicher, daß die Datei verfügbar ist "
-                               "und nicht durch eine andere Anwendung geöffnet wurde.", Meldung::Ausrufezeichen);
+                               "und nicht durch eine andere Anwendung geöffnet wurde.",
+                           Meldung::Ausrufezeichen);
     return false;
 }

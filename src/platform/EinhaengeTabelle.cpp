@@ -132,8 +132,8 @@ std::string MedienWurzelForm(std::string_view pfad) {
 
 bool WechselDateisystem(std::string_view typ) {
     static constexpr std::array<std::string_view, 13> kTypen = {
-        "iso9660", "udf", "nfs", "nfs4", "cifs", "smb3", "smbfs",  // optisch, Netz
-        "fuse.sshfs", "9p", "davfs", "fuse.davfs", "tmpfs", "ramfs"};  // Netz, RAM
+        "iso9660",    "udf", "nfs",   "nfs4",       "cifs",  "smb3", "smbfs",  // optisch, Netz
+        "fuse.sshfs", "9p",  "davfs", "fuse.davfs", "tmpfs", "ramfs"};         // Netz, RAM
     for (auto t : kTypen)
         if (typ == t) return true;
     return false;

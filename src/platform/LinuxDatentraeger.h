@@ -52,7 +52,7 @@ private:
         ino_t knoten = 0;
         off_t größe = -1;
         timespec geändert{};
-    } stand_;           // für eine gewöhnliche Datei (Tests): Änderung am stat erkennen
+    } stand_;  // für eine gewöhnliche Datei (Tests): Änderung am stat erkennen
     bool gelesen_ = false;
     std::vector<Einhängung> tabelle_;
 

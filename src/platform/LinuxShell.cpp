@@ -36,8 +36,9 @@ bool LinuxShell::InPapierkorb(const std::string& pfad, std::string& fehler) {
 
 bool LinuxShell::InZwischenablage(const std::string& text) {
     if (zwischenablage) return zwischenablage(text);
-    for (const auto& [prog, args] : {std::pair{QStringLiteral("wl-copy"), QStringList{}},
-                                     std::pair{QStringLiteral("xclip"), QStringList{QStringLiteral("-selection"), QStringLiteral("clipboard")}}}) {
+    for (const auto& [prog, args] :
+         {std::pair{QStringLiteral("wl-copy"), QStringList{}},
+          std::pair{QStringLiteral("xclip"), QStringList{QStringLiteral("-selection"), QStringLiteral("clipboard")}}}) {
         if (QStandardPaths::findExecutable(prog).isEmpty()) continue;
         QProcess p;
         p.start(prog, args);

@@ -22,7 +22,8 @@ std::string StandardIndexPfad() { return DatenOrdner() + "/Klangkt.kkt"; }
 
 std::string ProgrammDatenOrdner() {
     QString exe = QCoreApplication::applicationDirPath();
-    if (exe.isEmpty()) exe = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalFilePath().section(QLatin1Char('/'), 0, -2);
+    if (exe.isEmpty())
+        exe = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalFilePath().section(QLatin1Char('/'), 0, -2);
     return QDir(exe + QStringLiteral("/../share/klangkartei")).absolutePath().toStdString();
 }
 

@@ -17,8 +17,7 @@ public:
     explicit WerteSammler(const Kartei& k) : k_(k) {}
     void Aufnehmen(const IndexFeld& feld, int32_t eintrag) {
         int16_t art = 0;
-        if (IndexFeldZurückgeben(k_, eintrag, feld, false, text_, art) && !text_.empty() &&
-            text_.back() == '\0')
+        if (IndexFeldZurückgeben(k_, eintrag, feld, false, text_, art) && !text_.empty() && text_.back() == '\0')
             text_ = NullAbschneiden(text_);
         if (text_.empty()) return;
         gefaltet_.clear();

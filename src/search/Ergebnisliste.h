@@ -6,14 +6,14 @@
 #include <vector>
 
 struct ListenSpalte {
-    std::string kopf;      // Überschrift
-    std::string tag;       // "", "e" (beim Abgleich behalten) oder "b" (Benutzerdefiniert)
-    int32_t breite = 1400; // in Twips wie in der Spaltenbeschreibung
-    int32_t spalte = 0;    // Nummer in der Spaltentabelle (1..30)
+    std::string kopf;       // Überschrift
+    std::string tag;        // "", "e" (beim Abgleich behalten) oder "b" (Benutzerdefiniert)
+    int32_t breite = 1400;  // in Twips wie in der Spaltenbeschreibung
+    int32_t spalte = 0;     // Nummer in der Spaltentabelle (1..30)
 };
 
 struct ListenZeile {
-    int32_t eintrag = 0;   // Tag der Zeile: Eintragsnummer in der Tabelle
+    int32_t eintrag = 0;  // Tag der Zeile: Eintragsnummer in der Tabelle
     bool ausgewählt = false;
 };
 

@@ -45,8 +45,7 @@ int32_t Finden(std::string_view text, std::string_view wort) {
     return p ? static_cast<int32_t>(static_cast<const char*>(p) - text.data()) + 1 : 0;
 }
 
-Zeile ZeileVorbereiten(const std::string& feld, const std::string& begriff,
-                       const std::string& bedingung) {
+Zeile ZeileVorbereiten(const std::string& feld, const std::string& begriff, const std::string& bedingung) {
     Zeile z;
     z.feld = IndexFeldVorbereiten(feld);
     z.standardsuche = z.feld.kennung == IndexFeldKennung::Standardsuche;
@@ -76,8 +75,8 @@ public:
         : k_(k), treffer_(treffer), schnell_(verfahren == SuchVerfahren::Schnell) {}
 
     // Ein Durchgang eines Wortes über von..bis; gibt den ersten und letzten Treffer zurück.
-    void Durchgang(const Zeile& z, const Wort& w, bool erstesWort, int32_t von, int32_t bis,
-                   int32_t& erster, int32_t& letzter);
+    void Durchgang(const Zeile& z, const Wort& w, bool erstesWort, int32_t von, int32_t bis, int32_t& erster,
+                   int32_t& letzter);
 
 private:
     int32_t Prüfen(const Zeile& z, const Wort& w, bool erstesWort, int32_t eintrag, bool& genau);
@@ -92,8 +91,7 @@ private:
 };
 
 // Fundstelle des Wortes im Feldtext (0 = kein Treffer); genau: genaue Entsprechung.
-int32_t Suchlauf::Prüfen(const Zeile& z, const Wort& w, bool erstesWort, int32_t eintrag,
-                         bool& genau) {
+int32_t Suchlauf::Prüfen(const Zeile& z, const Wort& w, bool erstesWort, int32_t eintrag, bool& genau) {
     genau = false;
     // Leeres Wort in der Standardsuche: Treffer, ohne den Text zu holen (der nie leer ist).
     if (w.text.empty() && z.standardsuche) return 1;
@@ -138,8 +136,8 @@ void Suchlauf::GenauEinschalten(int32_t eintrag) {
     KK_TRACE(kProzedur, "Genaue Entsprechung ab Eintrag " + std::to_string(eintrag));
 }
 
-void Suchlauf::Durchgang(const Zeile& z, const Wort& w, bool erstesWort, int32_t von, int32_t bis,
-                         int32_t& erster, int32_t& letzter) {
+void Suchlauf::Durchgang(const Zeile& z, const Wort& w, bool erstesWort, int32_t von, int32_t bis, int32_t& erster,
+                         int32_t& letzter) {
     if (!cacheGeprüft_ && schnell_ && z.standardsuche && !w.text.empty()) {
         cacheGeprüft_ = true;
         cache_ = SuchCacheAktualisieren(k_, k_.Suche.standardsuche);
@@ -189,10 +187,9 @@ bool BereichGültig(const Kartei& k, const EinsBasiert<int16_t>& treffer, int32_
 }  // namespace
 
 bool IndexSucheDurchführen(Kartei& k, int32_t& SuchAnzahl, EinsBasiert<std::string>& SuchFelder,
-                           EinsBasiert<std::string>& SuchBegriffe,
-                           EinsBasiert<std::string>& SuchBedingungen,
-                           EinsBasiert<int16_t>& DateiTreffer, int32_t& SuchCacheAnfang,
-                           int32_t& SuchCacheEnde, SuchVerfahren verfahren) {
+                           EinsBasiert<std::string>& SuchBegriffe, EinsBasiert<std::string>& SuchBedingungen,
+                           EinsBasiert<int16_t>& DateiTreffer, int32_t& SuchCacheAnfang, int32_t& SuchCacheEnde,
+                           SuchVerfahren verfahren) {
     k.Suche.tmrListeAktiv = false;
     if (SuchCacheAnfang == -1) SuchCacheAnfang = 1;
     if (SuchCacheEnde == 0 || k.DateiAnzahl < 1) {
@@ -212,11 +209,11 @@ bool IndexSucheDurchführen(Kartei& k, int32_t& SuchAnzahl, EinsBasiert<std::str
             const int32_t bis = z.ganzerDurchlauf ? k.DateiAnzahl : SuchCacheEnde;
             if (!BereichGültig(k, DateiTreffer, von, bis)) return false;
             lauf.Durchgang(z, w, n == 1, von, bis, SuchCacheAnfang, SuchCacheEnde);
-            KK_TRACE(kProzedur, "Suche beendet, Cache-Suchgröße: " + std::to_string(SuchCacheAnfang) +
-                                    " bis " + std::to_string(SuchCacheEnde));
+            KK_TRACE(kProzedur, "Suche beendet, Cache-Suchgröße: " + std::to_string(SuchCacheAnfang) + " bis " +
+                                    std::to_string(SuchCacheEnde));
             if (SuchCacheAnfang == 0 || SuchCacheEnde == 0) {
-                KK_TRACE(kProzedur, "Cache ist jetzt leer (Ende) - Zeile " + std::to_string(zeile) +
-                                        ", Wort " + std::to_string(n));
+                KK_TRACE(kProzedur, "Cache ist jetzt leer (Ende) - Zeile " + std::to_string(zeile) + ", Wort " +
+                                        std::to_string(n));
                 return true;
             }
         }
@@ -226,6 +223,6 @@ bool IndexSucheDurchführen(Kartei& k, int32_t& SuchAnzahl, EinsBasiert<std::str
 
 bool IndexSucheDurchführen(Kartei& k, SuchVerfahren verfahren) {
     auto& s = k.Suche;
-    return IndexSucheDurchführen(k, s.SuchAnzahl, s.SuchFelder, s.SuchBegriffe, s.SuchBedingungen,
-                                 k.DateiTreffer, s.SuchCacheAnfang, s.SuchCacheEnde, verfahren);
+    return IndexSucheDurchführen(k, s.SuchAnzahl, s.SuchFelder, s.SuchBegriffe, s.SuchBedingungen, k.DateiTreffer,
+                                 s.SuchCacheAnfang, s.SuchCacheEnde, verfahren);
 }

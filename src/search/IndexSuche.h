@@ -18,9 +18,8 @@ enum class SuchVerfahren { Schnell, Einzeln };
 // Markierungsfelder zu kurz, Bereich außerhalb der Tabelle). Markierungen und Grenzen bleiben
 // dann, so weit die Suche gekommen ist.
 bool IndexSucheDurchführen(Kartei& k, int32_t& SuchAnzahl, EinsBasiert<std::string>& SuchFelder,
-                           EinsBasiert<std::string>& SuchBegriffe,
-                           EinsBasiert<std::string>& SuchBedingungen,
-                           EinsBasiert<int16_t>& DateiTreffer, int32_t& SuchCacheAnfang,
-                           int32_t& SuchCacheEnde, SuchVerfahren verfahren = SuchVerfahren::Schnell);
+                           EinsBasiert<std::string>& SuchBegriffe, EinsBasiert<std::string>& SuchBedingungen,
+                           EinsBasiert<int16_t>& DateiTreffer, int32_t& SuchCacheAnfang, int32_t& SuchCacheEnde,
+                           SuchVerfahren verfahren = SuchVerfahren::Schnell);
 // Dasselbe über k.Suche und k.DateiTreffer.
 bool IndexSucheDurchführen(Kartei& k, SuchVerfahren verfahren = SuchVerfahren::Schnell);

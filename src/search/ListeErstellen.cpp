@@ -18,8 +18,7 @@ void MarkierungenMerken(Kartei& k, const Ergebnisliste& liste, bool& aufsteigend
         // Ein Tag hinter der Anzahl gehört zu einem Eintrag, den es nicht mehr gibt.
         if (!zeile.ausgewählt || zeile.eintrag > k.DateiAnzahl) continue;
         if (s.MarkierteAnzahl == k.DateiAnzahl) break;
-        if (s.MarkierteAnzahl > 0 && s.MarkierteEinträge[s.MarkierteAnzahl] >= zeile.eintrag)
-            aufsteigend = false;
+        if (s.MarkierteAnzahl > 0 && s.MarkierteEinträge[s.MarkierteAnzahl] >= zeile.eintrag) aufsteigend = false;
         s.MarkierteEinträge[++s.MarkierteAnzahl] = zeile.eintrag;
     }
 }
@@ -61,8 +60,7 @@ int32_t ZeilenFüllen(Kartei& k, Ergebnisliste& liste, bool aufsteigend) {
 }  // namespace
 
 std::string DateiAnzahlText(int32_t zeilen, int32_t dateiAnzahl) {
-    return std::to_string(zeilen) + " Datei(en) gefunden\n" + std::to_string(dateiAnzahl) +
-           " Datei(en) im Index";
+    return std::to_string(zeilen) + " Datei(en) gefunden\n" + std::to_string(dateiAnzahl) + " Datei(en) im Index";
 }
 
 void ListeErstellen(Kartei& k, Ergebnisliste& Liste, bool AnzahlZeigen) {

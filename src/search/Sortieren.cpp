@@ -41,9 +41,7 @@ public:
     Schlüssel(const Kartei& k, const std::string& spalte, int32_t von, int32_t bis);
     // Vergleich mit dem Pivot-Schlüssel.
     bool Kleiner(size_t a) const { return zahl_ ? zahlen_[a] < pivotZahl_ : texte_[a] < pivotText_; }
-    bool Größer(size_t a) const {
-        return zahl_ ? zahlen_[a] > pivotZahl_ : texte_[a] > pivotText_;
-    }
+    bool Größer(size_t a) const { return zahl_ ? zahlen_[a] > pivotZahl_ : texte_[a] > pivotText_; }
     void PivotNehmen(size_t p) {
         if (zahl_) pivotZahl_ = zahlen_[p];
         else pivotText_ = texte_[p];
@@ -86,8 +84,7 @@ Schlüssel::Schlüssel(const Kartei& k, const std::string& spalte, int32_t von, 
 }
 
 // Setzt in v (0-basiert, ab basis) Position i auf den früheren Inhalt von herkunft[i] - von.
-template <typename T>
-void Umordnen(std::vector<T>& v, int32_t von, const std::vector<int32_t>& herkunft) {
+template <typename T> void Umordnen(std::vector<T>& v, int32_t von, const std::vector<int32_t>& herkunft) {
     const size_t basis = size_t(von - 1), n = herkunft.size();
     std::vector<bool> erledigt(n, false);
     for (size_t start = 0; start < n; ++start) {

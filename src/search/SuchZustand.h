@@ -83,6 +83,6 @@ struct SuchZustand {
 };
 
 struct ListenZustand {
-    Ergebnisliste lstSongs;        // die Hauptliste
-    std::string DateiAnzahlText;   // lblDateiAnzahl
+    Ergebnisliste lstSongs;       // die Hauptliste
+    std::string DateiAnzahlText;  // lblDateiAnzahl
 };

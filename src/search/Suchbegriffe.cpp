@@ -3,19 +3,22 @@
 #include "search/SuchZustand.h"
 
 const std::vector<std::string>& SuchFelderListe() {
-    static const std::vector<std::string> felder = {
-        "(Standardsuche)", "Interpret",       "Album",           "Titel",
-        "Track",           "Jahr",            "Kommentar",       "Genre",
-        "Interpret-ID3v2", "Titel-ID3v2",     "Album-ID3v2",     "Jahr-ID3v2",
-        "Track-ID3v2",     "Genre-ID3v2",     "Kommentar-ID3v2", "Pfad",
-        "Wechselmedium",   "Bitrate",         "Hinzufüge-Datum", "Datei-Endung",
-        "Abspiel-Datum",   "Abspiel-Häufigkeit"};
+    static const std::vector<std::string> felder = {"(Standardsuche)", "Interpret",
+                                                    "Album",           "Titel",
+                                                    "Track",           "Jahr",
+                                                    "Kommentar",       "Genre",
+                                                    "Interpret-ID3v2", "Titel-ID3v2",
+                                                    "Album-ID3v2",     "Jahr-ID3v2",
+                                                    "Track-ID3v2",     "Genre-ID3v2",
+                                                    "Kommentar-ID3v2", "Pfad",
+                                                    "Wechselmedium",   "Bitrate",
+                                                    "Hinzufüge-Datum", "Datei-Endung",
+                                                    "Abspiel-Datum",   "Abspiel-Häufigkeit"};
     return felder;
 }
 
 bool SuchbegriffeZurücksetzen(int32_t& SuchAnzahl, EinsBasiert<std::string>& SuchFelder,
-                              EinsBasiert<std::string>& SuchBegriffe,
-                              EinsBasiert<std::string>& SuchBedingungen) {
+                              EinsBasiert<std::string>& SuchBegriffe, EinsBasiert<std::string>& SuchBedingungen) {
     SuchAnzahl = 0;
     SuchFelder.ReDim(1);
     SuchBegriffe.ReDim(1);
@@ -24,9 +27,8 @@ bool SuchbegriffeZurücksetzen(int32_t& SuchAnzahl, EinsBasiert<std::string>& Su
 }
 
 bool SuchbegriffeHinzufügen(int32_t& SuchAnzahl, EinsBasiert<std::string>& SuchFelder,
-                            EinsBasiert<std::string>& SuchBegriffe,
-                            EinsBasiert<std::string>& SuchBedingungen, const std::string& Begriff,
-                            const std::string& Feld, const std::string& Bedingung) {
+                            EinsBasiert<std::string>& SuchBegriffe, EinsBasiert<std::string>& SuchBedingungen,
+                            const std::string& Begriff, const std::string& Feld, const std::string& Bedingung) {
     if (SuchAnzahl < 0 || SuchAnzahl == INT32_MAX) return false;
     ++SuchAnzahl;
     if (SuchAnzahl == 1) {
@@ -45,9 +47,8 @@ bool SuchbegriffeHinzufügen(int32_t& SuchAnzahl, EinsBasiert<std::string>& Such
 }
 
 bool SuchbegriffeÄndern(EinsBasiert<std::string>& SuchFelder, EinsBasiert<std::string>& SuchBegriffe,
-                        EinsBasiert<std::string>& SuchBedingungen, int32_t Nummer,
-                        const std::string& Begriff, const std::string& Feld,
-                        const std::string& Bedingung) {
+                        EinsBasiert<std::string>& SuchBedingungen, int32_t Nummer, const std::string& Begriff,
+                        const std::string& Feld, const std::string& Bedingung) {
     if (!SuchFelder.GültigerIndex(Nummer) || !SuchBegriffe.GültigerIndex(Nummer) ||
         !SuchBedingungen.GültigerIndex(Nummer))
         return false;
@@ -58,10 +59,10 @@ bool SuchbegriffeÄndern(EinsBasiert<std::string>& SuchFelder, EinsBasiert<std::
 }
 
 bool SuchbegriffeLöschen(int32_t& SuchAnzahl, EinsBasiert<std::string>& SuchFelder,
-                         EinsBasiert<std::string>& SuchBegriffe,
-                         EinsBasiert<std::string>& SuchBedingungen, int32_t Nummer) {
-    if (Nummer < 1 || Nummer > SuchAnzahl || SuchFelder.UBound() < SuchAnzahl ||
-        SuchBegriffe.UBound() < SuchAnzahl || SuchBedingungen.UBound() < SuchAnzahl)
+                         EinsBasiert<std::string>& SuchBegriffe, EinsBasiert<std::string>& SuchBedingungen,
+                         int32_t Nummer) {
+    if (Nummer < 1 || Nummer > SuchAnzahl || SuchFelder.UBound() < SuchAnzahl || SuchBegriffe.UBound() < SuchAnzahl ||
+        SuchBedingungen.UBound() < SuchAnzahl)
         return false;
     for (int32_t i = Nummer; i < SuchAnzahl; ++i) {
         SuchFelder[i] = std::move(SuchFelder[i + 1]);
@@ -82,19 +83,17 @@ bool SuchbegriffeZurücksetzen(SuchZustand& s) {
 
 bool SuchbegriffeHinzufügen(SuchZustand& s, const std::string& Begriff, const std::string& Feld,
                             const std::string& Bedingung) {
-    return SuchbegriffeHinzufügen(s.SuchAnzahl, s.SuchFelder, s.SuchBegriffe, s.SuchBedingungen,
-                                  Begriff, Feld, Bedingung);
+    return SuchbegriffeHinzufügen(s.SuchAnzahl, s.SuchFelder, s.SuchBegriffe, s.SuchBedingungen, Begriff, Feld,
+                                  Bedingung);
 }
 
-bool SuchbegriffeÄndern(SuchZustand& s, int32_t Nummer, const std::string& Begriff,
-                        const std::string& Feld, const std::string& Bedingung) {
-    return SuchbegriffeÄndern(s.SuchFelder, s.SuchBegriffe, s.SuchBedingungen, Nummer, Begriff,
-                              Feld, Bedingung);
+bool SuchbegriffeÄndern(SuchZustand& s, int32_t Nummer, const std::string& Begriff, const std::string& Feld,
+                        const std::string& Bedingung) {
+    return SuchbegriffeÄndern(s.SuchFelder, s.SuchBegriffe, s.SuchBedingungen, Nummer, Begriff, Feld, Bedingung);
 }
 
 bool SuchbegriffeLöschen(SuchZustand& s, int32_t Nummer) {
-    return SuchbegriffeLöschen(s.SuchAnzahl, s.SuchFelder, s.SuchBegriffe, s.SuchBedingungen,
-                               Nummer);
+    return SuchbegriffeLöschen(s.SuchAnzahl, s.SuchFelder, s.SuchBegriffe, s.SuchBedingungen, Nummer);
 }
 
 std::string SuchZeileText(const SuchZustand& s, int32_t Nummer) {

@@ -36,8 +36,7 @@ void ZeilenAbgleichen(Kartei& k) {
         return;
     }
     if (!SuchbegriffeZurücksetzen(s)) Warnung(k, "Die Such-Abfrage konnte nicht zurückgesetzt werden.");
-    if (!SuchbegriffeHinzufügen(s, text, feld, "00"))
-        Warnung(k, "Die Such-Abfrage konnte nicht eingerichtet werden.");
+    if (!SuchbegriffeHinzufügen(s, text, feld, "00")) Warnung(k, "Die Such-Abfrage konnte nicht eingerichtet werden.");
 }
 }  // namespace
 
@@ -48,8 +47,7 @@ void tmrListe_Timer(Kartei& k) {
     s.SuchCacheAnfang = -1;
     s.SuchCacheEnde = k.DateiAnzahl;
     AlleMarkieren(k);
-    if (!IndexSucheDurchführen(k))
-        Warnung(k, "Die Suche konnte aufgrund eines Fehlers nicht durchgeführt werden.");
+    if (!IndexSucheDurchführen(k)) Warnung(k, "Die Suche konnte aufgrund eines Fehlers nicht durchgeführt werden.");
     ListeErstellen(k, k.Liste.lstSongs, true);
 }
 

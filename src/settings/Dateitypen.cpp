@@ -4,8 +4,8 @@
 
 namespace {
 constexpr DateitypVorgabe kVorgaben[] = {
-    {"mp3=1", "110"}, {"mp2=1", "110"}, {"mp1=1", "110"}, {"wma=1", "010"}, {"wmf=1", "010"},
-    {"wav=1", "010"}, {"gif=0", "001"}, {"jpg=0", "001"}, {"bmp=0", "001"}, {"aac=1", "110"},
+    {"mp3=1", "110"}, {"mp2=1", "110"},  {"mp1=1", "110"}, {"wma=1", "010"}, {"wmf=1", "010"},
+    {"wav=1", "010"}, {"gif=0", "001"},  {"jpg=0", "001"}, {"bmp=0", "001"}, {"aac=1", "110"},
     {"vqf=1", "010"}, {"jpeg=0", "001"}, {"*=0", "000"},
 };
 constexpr int kAnzahl = sizeof kVorgaben / sizeof kVorgaben[0];

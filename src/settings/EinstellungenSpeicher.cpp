@@ -106,8 +106,7 @@ void TabellenwertSpeichern(Kartei& k, const EinstellungsEintrag& e) {
                 SpezielleEinstellungSpeichern(k, e.name, k.*ziel);
             else if constexpr (std::is_same_v<decltype(ziel), std::string Einstellungen::*>)
                 SpezielleEinstellungSpeichern(k, e.name, k.E.*ziel);
-            else
-                SpezielleEinstellungSpeichern(k, e.name, static_cast<int32_t>(k.E.*ziel));
+            else SpezielleEinstellungSpeichern(k, e.name, static_cast<int32_t>(k.E.*ziel));
         },
         e.ziel);
 }

@@ -7,7 +7,8 @@
 #include <type_traits>
 
 // Der Name des Wertes ist der Name des Mitglieds; so können beide nicht auseinanderlaufen.
-#define KK_WERT(mitglied) EinstellungsEintrag{#mitglied, &Einstellungen::mitglied}
+#define KK_WERT(mitglied)                                                                                              \
+    EinstellungsEintrag { #mitglied, &Einstellungen::mitglied }
 
 const std::vector<EinstellungsEintrag>& EinstellungsTabelle() {
     static const std::vector<EinstellungsEintrag> tabelle = {

@@ -12,8 +12,8 @@
 
 // Wohin ein Wert gehört. Fast alles steht in k.E; nur "Dateiname" ist der Pfad des offenen
 // Index in der Kartei selbst.
-using EinstellungsZiel = std::variant<std::string Einstellungen::*, int16_t Einstellungen::*,
-                                      int32_t Einstellungen::*, std::string Kartei::*>;
+using EinstellungsZiel = std::variant<std::string Einstellungen::*, int16_t Einstellungen::*, int32_t Einstellungen::*,
+                                      std::string Kartei::*>;
 
 struct EinstellungsEintrag {
     const char* name;

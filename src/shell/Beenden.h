@@ -18,11 +18,11 @@ struct FensterLage {
 };
 
 enum class BeendenSchritt {
-    Weiter,       // weiter zum Sichern und Ende
-    Fragen,       // frmBeenden zeigen, dann BeendenAuswahlAnwenden
-    Minimieren,   // Schließen abbrechen, Fenster verkleinern
-    InTray,       // Schließen abbrechen, Fenster verstecken
-    Abbrechen,    // Schließen abbrechen
+    Weiter,      // weiter zum Sichern und Ende
+    Fragen,      // frmBeenden zeigen, dann BeendenAuswahlAnwenden
+    Minimieren,  // Schließen abbrechen, Fenster verkleinern
+    InTray,      // Schließen abbrechen, Fenster verstecken
+    Abbrechen,   // Schließen abbrechen
 };
 
 // Werte von BeendenReaktion und BeendenAuswahl.

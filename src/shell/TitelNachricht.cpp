@@ -21,10 +21,8 @@ TitelSchritt TitelNachrichtStarten(TitelAnimation& a, const std::string& text, i
     s.normalerTitel = verzögerungMs != 0;
     a.TitelNachricht = text;
     a.TitelPosition = 0;
-    if (verzögerungMs != 0)
-        s.timer2Ms = verzögerungMs > 0 ? verzögerungMs : 1;
-    else
-        s.timer1Ms = TitelTippIntervall;
+    if (verzögerungMs != 0) s.timer2Ms = verzögerungMs > 0 ? verzögerungMs : 1;
+    else s.timer1Ms = TitelTippIntervall;
     return s;
 }
 

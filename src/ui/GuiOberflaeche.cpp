@@ -55,7 +55,10 @@ int GuiOberfläche::MeldungZeigen(const std::string& text, int schalter) {
     QMessageBox::StandardButton vorgabe = QMessageBox::Ok;
     switch (schalter) {
     case Information: symbol = QMessageBox::Information; break;
-    case JaNeinAusruf: knöpfe = QMessageBox::Yes | QMessageBox::No; vorgabe = QMessageBox::Yes; break;
+    case JaNeinAusruf:
+        knöpfe = QMessageBox::Yes | QMessageBox::No;
+        vorgabe = QMessageBox::Yes;
+        break;
     case JaNeinFrage:
         symbol = QMessageBox::Question;
         knöpfe = QMessageBox::Yes | QMessageBox::No;
@@ -125,8 +128,7 @@ NichtVerfügbarAntwort GuiOberfläche::DateiNichtVerfügbar(const std::string&, 
     return dialog.DateiNichtVerfügbarAuswahl;
 }
 
-bool GuiOberfläche::NamenEingeben(const std::string& titel, const std::string&, std::string& text, int32_t,
-                                  int32_t) {
+bool GuiOberfläche::NamenEingeben(const std::string& titel, const std::string&, std::string& text, int32_t, int32_t) {
     bool ok = false;
     QString neu = QInputDialog::getText(Besitzer(), Q(titel), QString(), QLineEdit::Normal, Q(text), &ok);
     if (ok) text = S(neu);

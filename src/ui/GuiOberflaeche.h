@@ -26,11 +26,10 @@ public:
     void FortschrittDarstellen(const FortschrittAnsicht& ansicht) override;
     NichtVerfügbarAntwort DateiNichtVerfügbar(const std::string& pfad, const std::string& text,
                                               const std::function<bool()>& dateiDa) override;
-    bool NamenEingeben(const std::string& titel, const std::string& knopf, std::string& text,
-                       int32_t auswahlStart, int32_t auswahlLänge) override;
+    bool NamenEingeben(const std::string& titel, const std::string& knopf, std::string& text, int32_t auswahlStart,
+                       int32_t auswahlLänge) override;
     bool OrdnerWählen(const std::string& titel, std::string& ordner) override;
-    bool DateienWählen(const std::string& titel, const std::string& filter,
-                       std::vector<std::string>& dateien) override;
+    bool DateienWählen(const std::string& titel, const std::string& filter, std::vector<std::string>& dateien) override;
 
     // Einen Dialog modal zeigen; mit dialogSkript wird er nur gezeigt und dem Skript übergeben.
     // Ergebnis: QDialog::result() danach.
@@ -39,14 +38,13 @@ public:
     bool DateiZumSpeichernWählen(const std::string& titel, const std::string& filter, const std::string& start,
                                  std::string& datei);
     // Eine vorhandene Datei wählen; false = Abbrechen.
-    bool DateiWählen(const std::string& titel, const std::string& filter, const std::string& start,
-                     std::string& datei);
+    bool DateiWählen(const std::string& titel, const std::string& filter, const std::string& start, std::string& datei);
     QWidget* Besitzer() const { return besitzer_ ? besitzer_() : nullptr; }
 
     // Das Hauptfenster hängt sich hier ein.
     std::function<void(const std::string&, int32_t)> titelNachricht;
-    std::function<void()> fortschrittAbbrechen;          // Knopf "Abbrechen" des Fortschrittsfensters
-    std::function<void(bool)> besitzerSperren;           // true: Hauptfenster während des Fortschritts sperren
+    std::function<void()> fortschrittAbbrechen;  // Knopf "Abbrechen" des Fortschrittsfensters
+    std::function<void(bool)> besitzerSperren;   // true: Hauptfenster während des Fortschritts sperren
 
     // --- Skripte für Tests (nicht gesetzt: echte Fenster) ---
     std::function<int(const std::string& text, int schalter)> meldungsSkript;

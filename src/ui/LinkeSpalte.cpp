@@ -38,7 +38,8 @@ LinkeSpalte::LinkeSpalte(QWidget* eltern) : QFrame(eltern) {
     Hinzufügen(index, "cmdAuswählen", "Auswählen");
     links2->addWidget(index);
 
-    fraNurBeiAusgewählt_ = Gruppe(QStringLiteral("fraNurBeiAusgewählt"), QStringLiteral("Gewählte Dateien"), fraLinks2_);
+    fraNurBeiAusgewählt_ =
+        Gruppe(QStringLiteral("fraNurBeiAusgewählt"), QStringLiteral("Gewählte Dateien"), fraLinks2_);
     Hinzufügen(fraNurBeiAusgewählt_, "cmdEintragAbspielen", "Abspielen");
     Hinzufügen(fraNurBeiAusgewählt_, "cmdAnhängen", "In Playlist");
     Hinzufügen(fraNurBeiAusgewählt_, "cmdEintragAusführen", "Ausführen");

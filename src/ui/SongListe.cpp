@@ -111,15 +111,15 @@ SongListeAnsicht::SongListeAnsicht(Kartei& k, QWidget* eltern) : QTableView(elte
     horizontalHeader()->setStretchLastSection(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 
-    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &SongListeAnsicht::AuswahlZurückschreiben);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &SongListeAnsicht::AuswahlZurückschreiben);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int spalte) {
         if (!abgleichen_) emit spalteGeklickt(spalte);
     });
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int spalte, int, int neu) {
         if (abgleichen_) return;
         auto& s = k_.Liste.lstSongs.spalten;
-        if (spalte >= 0 && static_cast<size_t>(spalte) < s.size()) s[static_cast<size_t>(spalte)].breite = PixelZuTwips(neu);
+        if (spalte >= 0 && static_cast<size_t>(spalte) < s.size())
+            s[static_cast<size_t>(spalte)].breite = PixelZuTwips(neu);
         emit spaltenNeu();
     });
     connect(horizontalHeader(), &QHeaderView::sectionMoved, this, [this] {

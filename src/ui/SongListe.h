@@ -54,14 +54,14 @@ public:
     bool ShiftGedrückt = false;  // von der Tastatur der Liste; Abspielen leert dann die Playliste
 
 signals:
-    void auswahlNeu();                      // die Auswahlflaggen der Ergebnisliste haben sich geändert
-    void spalteGeklickt(int spalte);        // Spaltenkopf, 0-basiert in Anzeigereihenfolge
-    void entfTaste();                       // Entf
-    void doppelklick();                     // Doppelklick oder Eingabe
-    void strgA();                           // Strg+A
-    void rechtsklick(const QPoint& global);   // rechte Maustaste losgelassen
+    void auswahlNeu();                       // die Auswahlflaggen der Ergebnisliste haben sich geändert
+    void spalteGeklickt(int spalte);         // Spaltenkopf, 0-basiert in Anzeigereihenfolge
+    void entfTaste();                        // Entf
+    void doppelklick();                      // Doppelklick oder Eingabe
+    void strgA();                            // Strg+A
+    void rechtsklick(const QPoint& global);  // rechte Maustaste losgelassen
     void dateienFallengelassen(const QStringList& pfade);
-    void spaltenNeu();                      // Breite oder Reihenfolge von Hand geändert
+    void spaltenNeu();  // Breite oder Reihenfolge von Hand geändert
 
 protected:
     void keyPressEvent(QKeyEvent* ereignis) override;
@@ -83,6 +83,6 @@ private:
 
     Kartei& k_;
     ErgebnislisteModell* modell_;
-    bool abgleichen_ = false;  // Signale der Ansicht gehen dann nicht in die Liste zurück
+    bool abgleichen_ = false;          // Signale der Ansicht gehen dann nicht in die Liste zurück
     uint64_t version_ = ~uint64_t{0};  // zuletzt übernommener Stand der Ergebnisliste
 };

@@ -170,8 +170,7 @@ void frmMain::ListeAnzeigen() {
 }
 
 void frmMain::AuswahlBeschreibungAnzeigen() {
-    const AuswahlBeschreibung b =
-        AuswahlBeschreibungBerechnen(k_, AusgewählteDateien(), AusgewähltAnzahl());
+    const AuswahlBeschreibung b = AuswahlBeschreibungBerechnen(k_, AusgewählteDateien(), AusgewähltAnzahl());
     auto farbe = [this](BeschreibungsFarbe f) {
         return FarbeAusWert(f == BeschreibungsFarbe::Funktionen ? k_.E.FarbeFunktionen : k_.E.FarbeBeschreibungen);
     };
@@ -197,14 +196,10 @@ void frmMain::TitelNachrichtZeigen(const std::string& text, int32_t verzögerung
 void frmMain::TitelSchrittAnwenden(const TitelSchritt& s) {
     if (s.normalerTitel) setWindowTitle(Q(NormalerTitel(indexGeladen_ ? k_.Dateiname : "")));
     if (s.titel) setWindowTitle(Q(*s.titel));
-    if (s.timer1Ms > 0)
-        tmrTimer1_->start(s.timer1Ms);
-    else
-        tmrTimer1_->stop();
-    if (s.timer2Ms > 0)
-        tmrTimer2_->start(s.timer2Ms);
-    else
-        tmrTimer2_->stop();
+    if (s.timer1Ms > 0) tmrTimer1_->start(s.timer1Ms);
+    else tmrTimer1_->stop();
+    if (s.timer2Ms > 0) tmrTimer2_->start(s.timer2Ms);
+    else tmrTimer2_->stop();
 }
 
 void frmMain::ZeitgeberStarten() { tmrScrollUpdate_->start(); }

@@ -44,8 +44,6 @@ void frmMain::DateienFallengelassen(const QStringList& pfade) {
 
 void frmMain::cmdDateiEntfernen_Click() {
     AuswahlAktualisieren();
-    if (::cmdDateiEntfernen_Click(k_))
-        SucheNachlauf();
-    else
-        AuswahlBeschreibungAnzeigen();
+    if (::cmdDateiEntfernen_Click(k_)) SucheNachlauf();
+    else AuswahlBeschreibungAnzeigen();
 }

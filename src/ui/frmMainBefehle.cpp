@@ -62,12 +62,12 @@ void frmMain::MenüsAufbauen() {
         const char* name;
         const char* text;
         int art;  // SongSuche, -1: eigene Aktion
-    } lieder[] = {{"mnu_song_allesongsmittitel", "Alle Songs mit diesem Titel anzeigen", int(SongSuche::Titel)},
-                  {"mnu_song_allesongsvoninterpret", "Alle Songs dieses Interpreten anzeigen",
-                   int(SongSuche::Interpret)},
-                  {"mnu_song_allesongsvonalbum", "Alle Songs von diesem Album anzeigen", int(SongSuche::Album)},
-                  {"mnu_song_allesongsimordner", "Alle Songs im enthaltenen Ordner anzeigen", int(SongSuche::Ordner)},
-                  {"mnu_song_mitdiesemnamen", "Alle Songs mit diesem Namen anzeigen", -1}};
+    } lieder[] = {
+        {"mnu_song_allesongsmittitel", "Alle Songs mit diesem Titel anzeigen", int(SongSuche::Titel)},
+        {"mnu_song_allesongsvoninterpret", "Alle Songs dieses Interpreten anzeigen", int(SongSuche::Interpret)},
+        {"mnu_song_allesongsvonalbum", "Alle Songs von diesem Album anzeigen", int(SongSuche::Album)},
+        {"mnu_song_allesongsimordner", "Alle Songs im enthaltenen Ordner anzeigen", int(SongSuche::Ordner)},
+        {"mnu_song_mitdiesemnamen", "Alle Songs mit diesem Namen anzeigen", -1}};
     for (const auto& l : lieder) {
         QAction* a = Eintrag(mnu_songkontext_, l.name, l.text);
         const int art = l.art;
@@ -77,8 +77,7 @@ void frmMain::MenüsAufbauen() {
     connect(Eintrag(mnu_songkontext_, "mnu_song_zwischenablage", "Dateinamen in Zwischenablage kopieren"),
             &QAction::triggered, this, [this] {
                 AuswahlAktualisieren();
-                const std::string pfad =
-                    ZwischenablagePfad(k_, AusgewählteDateien(), AusgewähltAnzahl());
+                const std::string pfad = ZwischenablagePfad(k_, AusgewählteDateien(), AusgewähltAnzahl());
                 if (!pfad.empty()) k_.shell.InZwischenablage(pfad);
             });
     mnu_songkontext_->addSeparator()->setObjectName(QStringLiteral("mnu_song_wähletrennzeichen2"));
@@ -129,20 +128,13 @@ void frmMain::Verbinden() {
 }
 
 void frmMain::BefehlAusführen(const QString& name) {
-    if (name == QStringLiteral("cmdIndexErstellen"))
-        cmdIndexErstellen_Click();
-    else if (name == QStringLiteral("cmdAuswählen"))
-        cmdAuswählen_Click();
-    else if (name == QStringLiteral("cmdDateiEntfernen"))
-        cmdDateiEntfernen_Click();
-    else if (name == QStringLiteral("cmdBeenden"))
-        close();
-    else if (name == QStringLiteral("cmdSucheLöschen"))
-        cmdSucheLöschen_Click();
-    else if (name == QStringLiteral("cmdSucheMehr"))
-        cmdSucheMehr_Click();
-    else
-        NichtVerfügbar();
+    if (name == QStringLiteral("cmdIndexErstellen")) cmdIndexErstellen_Click();
+    else if (name == QStringLiteral("cmdAuswählen")) cmdAuswählen_Click();
+    else if (name == QStringLiteral("cmdDateiEntfernen")) cmdDateiEntfernen_Click();
+    else if (name == QStringLiteral("cmdBeenden")) close();
+    else if (name == QStringLiteral("cmdSucheLöschen")) cmdSucheLöschen_Click();
+    else if (name == QStringLiteral("cmdSucheMehr")) cmdSucheMehr_Click();
+    else NichtVerfügbar();
 }
 
 void frmMain::NichtVerfügbar() {
@@ -192,8 +184,7 @@ void frmMain::Auswahlhelfer(void (*helfer)(Ergebnisliste&)) {
 void frmMain::SongSucheAusführen(int art) {
     AuswahlAktualisieren();
     SongSucheZiel ziel;
-    if (!SongSucheBestimmen(k_, static_cast<SongSuche>(art), AusgewählteDateien(), AusgewähltAnzahl(), ziel))
-        return;
+    if (!SongSucheBestimmen(k_, static_cast<SongSuche>(art), AusgewählteDateien(), AusgewähltAnzahl(), ziel)) return;
     SucheStarten(ziel.feld, ziel.text);
 }
 

@@ -20,10 +20,8 @@ void frmMain::FensterLageAnwenden(bool zentrieren, bool geometrie, bool maximier
     if (geometrie)
         setGeometry(TwipsZuPixel(k_.E.FensterLeft), TwipsZuPixel(k_.E.FensterTop), TwipsZuPixel(k_.E.FensterWidth),
                     TwipsZuPixel(k_.E.FensterHeight));
-    if (maximieren)
-        showMaximized();
-    else
-        show();
+    if (maximieren) showMaximized();
+    else show();
 }
 
 // Gespeichert wird die Lage des normalen Fensters, auch wenn es gerade maximiert ist.
@@ -56,8 +54,14 @@ void frmMain::closeEvent(QCloseEvent* ereignis) {
         schritt = BeendenAuswahlAnwenden(BeendenAuswahl, lage);
     }
     switch (schritt) {
-    case BeendenSchritt::Minimieren: ereignis->ignore(); showMinimized(); return;
-    case BeendenSchritt::InTray: ereignis->ignore(); hide(); return;
+    case BeendenSchritt::Minimieren:
+        ereignis->ignore();
+        showMinimized();
+        return;
+    case BeendenSchritt::InTray:
+        ereignis->ignore();
+        hide();
+        return;
     case BeendenSchritt::Abbrechen: ereignis->ignore(); return;
     default: break;
     }

@@ -96,10 +96,8 @@ void frmMain::SuchfelderAnzeigen() {
 
 // Nach jeder Routine der Suche: Zeitgeber spannen (ohne Neustart) oder anhalten, Liste zeigen.
 void frmMain::SucheNachlauf() {
-    if (!k_.Suche.tmrListeAktiv)
-        tmrListe_->stop();
-    else if (!tmrListe_->isActive())
-        tmrListe_->start();
+    if (!k_.Suche.tmrListeAktiv) tmrListe_->stop();
+    else if (!tmrListe_->isActive()) tmrListe_->start();
     SuchfelderAnzeigen();
     ListeAnzeigen();
     AuswahlAktualisierenUndZeigen();

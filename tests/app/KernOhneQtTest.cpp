@@ -8,8 +8,8 @@
 TEST(Kern, KeineQtEinbindung) {
     const std::regex qt(R"(^\s*#\s*include\s*[<"](Q[A-Za-z]|qt))");
     int geprüft = 0;
-    for (const char* ordner : {"app", "index", "media", "search", "player", "intake", "fileops", "tags",
-                               "reports", "settings", "shell"}) {
+    for (const char* ordner :
+         {"app", "index", "media", "search", "player", "intake", "fileops", "tags", "reports", "settings", "shell"}) {
         for (auto& e : std::filesystem::recursive_directory_iterator(std::string(KK_QUELLORDNER) + "/" + ordner)) {
             if (!e.is_regular_file()) continue;
             std::ifstream ein(e.path());

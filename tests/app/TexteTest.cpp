@@ -17,10 +17,10 @@ TEST(Texte, Windows1252HinUndZurück) {
 }
 
 TEST(Texte, DateiTextNimmtUtf8OderWindows1252) {
-    EXPECT_EQ(DateiTextLesen("K\xc3\xa4se"), "Käse");   // gültiges UTF-8 bleibt
-    EXPECT_EQ(DateiTextLesen("K\xe4se"), "Käse");       // sonst Windows-1252
+    EXPECT_EQ(DateiTextLesen("K\xc3\xa4se"), "Käse");  // gültiges UTF-8 bleibt
+    EXPECT_EQ(DateiTextLesen("K\xe4se"), "Käse");      // sonst Windows-1252
     EXPECT_FALSE(IstGültigesUtf8("\xc3"));
-    EXPECT_FALSE(IstGültigesUtf8("\xed\xa0\x80"));     // Ersatzzeichenbereich ist kein UTF-8
+    EXPECT_FALSE(IstGültigesUtf8("\xed\xa0\x80"));  // Ersatzzeichenbereich ist kein UTF-8
 }
 
 TEST(Texte, GroßKleinNachUnicode) {
@@ -98,12 +98,19 @@ TEST(Texte, TextZerlegenUndNull) {
 
 TEST(Texte, Utf16ZuUtf8) {
     using namespace std::string_literals;
-    EXPECT_EQ(Utf16ZuUtf8("\xFF\xFE" "A\0\xE4\0"s, false), "Aä");
+    EXPECT_EQ(Utf16ZuUtf8("\xFF\xFE"
+                          "A\0\xE4\0"s,
+                          false),
+              "Aä");
     EXPECT_EQ(Utf16ZuUtf8("\xFE\xFF\0A\0\xE4"s, false), "Aä");  // vertauschtes BOM wechselt die Reihenfolge
     EXPECT_EQ(Utf16ZuUtf8("\0A\x20\xAC"s, true), "A€");
     EXPECT_EQ(Utf16ZuUtf8("\x3D\xD8\x00\xDE"s, false), "\xF0\x9F\x98\x80");  // Ersatzpaar
-    EXPECT_EQ(Utf16ZuUtf8("\x3D\xD8" "A\0"s, false), "\xEF\xBF\xBD" "A");    // einzelne Hälfte
-    EXPECT_EQ(Utf16ZuUtf8("A\0B"s, false), "A");                               // Restbyte entfällt
+    EXPECT_EQ(Utf16ZuUtf8("\x3D\xD8"
+                          "A\0"s,
+                          false),
+              "\xEF\xBF\xBD"
+              "A");                               // einzelne Hälfte
+    EXPECT_EQ(Utf16ZuUtf8("A\0B"s, false), "A");  // Restbyte entfällt
 }
 
 TEST(Texte, NamenStreuwertFolgtNamenGleich) {
@@ -113,7 +120,10 @@ TEST(Texte, NamenStreuwertFolgtNamenGleich) {
         {"/Musik/Die Ärzte/Lied.MP3", "/musik/die ärzte/lied.mp3"},
         {"\u212Aabcdefgh", "kABCDEFGH"},
         {"abcdefg\u212Aabcdefgh", "ABCDEFGKabcdefgh"},
-        {"abc\xFF" "defghijk", "ABC\xFF" "DEFGHIJK"},
+        {"abc\xFF"
+         "defghijk",
+         "ABC\xFF"
+         "DEFGHIJK"},
         {"", ""}};
     for (const auto& [a, b] : gleich) {
         ASSERT_TRUE(NamenGleich(a, b)) << a;

@@ -207,7 +207,7 @@ TEST(Beenden, GeänderterIndexWirdGesichertOderNicht) {
     EXPECT_FALSE(GeändertenIndexSichern(u.k));  // Abbrechen: bleiben
     EXPECT_TRUE(GeändertenIndexSichern(u.k));   // Nein: ohne Speichern weiter
     EXPECT_FALSE(DoesExist(u.k.Dateiname));
-    EXPECT_TRUE(GeändertenIndexSichern(u.k));   // Ja: gespeichert
+    EXPECT_TRUE(GeändertenIndexSichern(u.k));  // Ja: gespeichert
     EXPECT_TRUE(DoesExist(u.k.Dateiname));
     EXPECT_FALSE(u.k.DateiGeändert);
     ASSERT_EQ(u.ui.meldungen.size(), 3u);

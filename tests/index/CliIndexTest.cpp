@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-
 namespace {
 // Die Kommandozeile mit eigenem XDG-Bereich im Testordner.
 CliErgebnis Cli(const TestOrdner& o, const std::vector<std::string>& argumente) {

@@ -146,19 +146,18 @@ TEST(IndexLesen, Optionszeilen) {
     TestUmgebung u;
     TestOrdner o;
     u.k.Optionen.SpaltenGitter = 1;  // vom vorigen Index
-    const std::string bytes =
-        "#TAG:kk102\r\n"
-        "#OPT:SYNC=/musik/neu,1,/musik/ziel\r\n"
-        "#OPT:SYNC=/musik/alt,x\r\n"
-        "#OPT:SYNC_ENTFERNEN=12\r\n"
-        "#OPT:VERWALTEN=ogg=1,110\r\n"
-        "#OPT:VERWALTEN=flac=1,abc\r\n"
-        "#OPT:VERWALTEN=kaputt\r\n"
-        "#OPT:SPALTEN_LEISTE=12\r\n"
-        "#OPT:SPALTEN_NUTZERFORMAT=%Titel% (%Jahr%)\r\n"
-        "#OPT:UNBEKANNT=1\r\n"
-        "#TERMIN:5/1/1/0/1/0/1|Probe11010\r\n"
-        "Kommentarzeile\r\n";
+    const std::string bytes = "#TAG:kk102\r\n"
+                              "#OPT:SYNC=/musik/neu,1,/musik/ziel\r\n"
+                              "#OPT:SYNC=/musik/alt,x\r\n"
+                              "#OPT:SYNC_ENTFERNEN=12\r\n"
+                              "#OPT:VERWALTEN=ogg=1,110\r\n"
+                              "#OPT:VERWALTEN=flac=1,abc\r\n"
+                              "#OPT:VERWALTEN=kaputt\r\n"
+                              "#OPT:SPALTEN_LEISTE=12\r\n"
+                              "#OPT:SPALTEN_NUTZERFORMAT=%Titel% (%Jahr%)\r\n"
+                              "#OPT:UNBEKANNT=1\r\n"
+                              "#TERMIN:5/1/1/0/1/0/1|Probe11010\r\n"
+                              "Kommentarzeile\r\n";
     ASSERT_TRUE(IndexAusBytesLaden(u, o, bytes));
     const IndexOptionen& op = u.k.Optionen;
     EXPECT_FALSE(op.SyncLeer);
@@ -222,11 +221,13 @@ TEST(IndexLesen, GrößenlistenMitFehlern) {
         "#TAG:6|/d.mp3\r\n"
         // ohne "|" endet die Liste nie: fällt weg, ohne zu hängen
         "#TAG:6/3/4\r\n"
-        "#TAG:" + std::string(5000, '/') + "\r\n" +
+        "#TAG:" +
+        std::string(5000, '/') + "\r\n" +
         // nur Größen, keine Werte: ein leerer Eintrag
         "#TAG:6/5/4|\r\n" +
         // ungültige Zahlen und Daten lassen die Vorgaben stehen
-        Zeile(Größen(20, {{1, "6"}, {5, "3"}, {9, "3"}, {11, "3"}, {15, "2"}, {16, "10"}, {17, "5"}, {19, "1"}, {20, "4"}}),
+        Zeile(Größen(20,
+                     {{1, "6"}, {5, "3"}, {9, "3"}, {11, "3"}, {15, "2"}, {16, "10"}, {17, "5"}, {19, "1"}, {20, "4"}}),
               "/f.mp3300abc12x-331.02.200199999xkein") +
         // 41 Größen: Feld 40 wird gelesen, Feld 41 nicht
         Zeile(Größen(41, {{1, "6"}, {40, "4"}, {41, "3"}}), "/g.mp3TIT2neu") +
@@ -405,7 +406,8 @@ TEST(IndexLesen, ZeichensatzJeFeld) {
     const std::string bytes =
         "#TAG:kk102\r\n" +
         // Die Zeile ist gültiges UTF-8, aber die Größen teilen das "ä": beide Hälften gelten als Windows-1252.
-        Zeile(Größen(20, {{1, "6"}, {2, "1"}, {3, "2"}, {4, "2"}}), "/x.mp3\xC3\xA4" "b\xC3\xB6") +
+        Zeile(Größen(20, {{1, "6"}, {2, "1"}, {3, "2"}, {4, "2"}}), "/x.mp3\xC3\xA4"
+                                                                    "b\xC3\xB6") +
         // Windows-1252 einer älteren Fassung
         Zeile(Größen(20, {{1, "6"}, {2, "5"}}), "/y.mp3\xC4rger");
     ASSERT_TRUE(IndexAusBytesLaden(u, o, bytes));

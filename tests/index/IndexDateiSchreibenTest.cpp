@@ -47,8 +47,8 @@ TEST(IndexSchreiben, RundreiseAllerZeilenformen) {
     const std::string erste = DateiLesen(o / "a.kkt");
     EXPECT_TRUE(erste.starts_with("#TAG:kk102\r\n#OPT:SYNC=/musik/eingang,1,/musik/ziel\r\n#OPT:SYNC=/musik/zwei,0,\r\n"
                                   "#OPT:SYNC_ENTFERNEN=0\r\n#OPT:VERWALTEN=ogg=1,010\r\n#OPT:SPALTEN_LEISTE=0\r\n"
-                                  "#OPT:SPALTEN_GITTER=1\r\n#OPT:SPALTEN=" + ListenSpalten() +
-                                  "\r\n#OPT:SPALTEN_NUTZERFORMAT=%Titelnummer%. %Titel%\r\n#TAG:"));
+                                  "#OPT:SPALTEN_GITTER=1\r\n#OPT:SPALTEN=" +
+                                  ListenSpalten() + "\r\n#OPT:SPALTEN_NUTZERFORMAT=%Titelnummer%. %Titel%\r\n#TAG:"));
 
     TestUmgebung b;
     b.k.E.Mp3TagLesen = "000";
@@ -143,9 +143,8 @@ TEST(IndexSchreiben, LeererIndex) {
     std::string erwartet = StandardKopf();
     erwartet.insert(erwartet.find("#OPT:SPALTEN_LEISTE"), [] {
         std::string v;
-        for (const char* z : {"mp3=1,110", "mp2=1,110", "mp1=1,110", "wma=1,010", "wmf=1,010", "wav=1,010",
-                              "gif=0,001", "jpg=0,001", "bmp=0,001", "aac=1,110", "vqf=1,010", "jpeg=0,001",
-                              "*=0,000"})
+        for (const char* z : {"mp3=1,110", "mp2=1,110", "mp1=1,110", "wma=1,010", "wmf=1,010", "wav=1,010", "gif=0,001",
+                              "jpg=0,001", "bmp=0,001", "aac=1,110", "vqf=1,010", "jpeg=0,001", "*=0,000"})
             v += std::string("#OPT:VERWALTEN=") + z + "\r\n";
         return v;
     }());

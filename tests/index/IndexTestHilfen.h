@@ -17,7 +17,8 @@ inline std::string ListenSpalten() {
 // Kopf eines Index ohne eigene Optionen, so wie der Schreiber ihn ausgibt.
 inline std::string StandardKopf(const std::string& spalten = ListenSpalten()) {
     return "#TAG:kk102\r\n#OPT:SYNC_ENTFERNEN=1\r\n#OPT:SPALTEN_LEISTE=1\r\n#OPT:SPALTEN_GITTER=0\r\n"
-           "#OPT:SPALTEN=" + spalten + "\r\n#OPT:SPALTEN_NUTZERFORMAT=%Interpret% - %Titel%\r\n";
+           "#OPT:SPALTEN=" +
+           spalten + "\r\n#OPT:SPALTEN_NUTZERFORMAT=%Interpret% - %Titel%\r\n";
 }
 
 // Der Eintrag "Lied" als Datensatzzeile ohne ID3v2, 150 Zeichen.

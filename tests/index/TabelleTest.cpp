@@ -24,7 +24,7 @@ TEST(Tabelle, WachsenInSchrittenUndZuschneiden) {
     TabelleZuschneiden(u.k, 6101);
     EXPECT_EQ(u.k.DateiPfade.UBound(), 6101);
     EXPECT_EQ(u.k.DateiPfade[6101], "6101");  // Inhalt bleibt
-    TabelleZuschneiden(u.k, 0);                 // bei 0 bleibt alles
+    TabelleZuschneiden(u.k, 0);               // bei 0 bleibt alles
     EXPECT_EQ(u.k.DateiPfade.UBound(), 6101);
     IndexGrößeÄndern(u.k, 3, false);
     EXPECT_EQ(u.k.DateiPfade[3], "");

@@ -10,17 +10,16 @@
 namespace {
 namespace fs = std::filesystem;
 
-const std::string kTabelle =
-    "22 1 254:0 / / rw,relatime shared:1 - ext4 /dev/vda rw\n"
-    "30 22 8:17 / /media/anna/USB\\040STICK rw,nosuid shared:5 master:2 - vfat /dev/sdb1 rw\n"
-    "31 22 11:0 / /media/anna/CDROM ro - iso9660 /dev/sr0 ro\n"
-    "32 22 0:45 / /mnt/netz rw - nfs4 server:/export rw\n"
-    "33 22 0:46 / /tmp rw - tmpfs tmpfs rw\n"
-    "34 22 8:2 / /daten rw - ext4 /dev/sda2 rw\n"
-    "35 22 8:33 / /media/anna/Karte rw - exfat /dev/sdc1 rw\n"
-    "37 22 8:48 / /srv/wechsel rw - ext4 /dev/sdd rw\n"
-    "kaputt\n"
-    "36 22 8:2 /unter /daten/x rw -\n";
+const std::string kTabelle = "22 1 254:0 / / rw,relatime shared:1 - ext4 /dev/vda rw\n"
+                             "30 22 8:17 / /media/anna/USB\\040STICK rw,nosuid shared:5 master:2 - vfat /dev/sdb1 rw\n"
+                             "31 22 11:0 / /media/anna/CDROM ro - iso9660 /dev/sr0 ro\n"
+                             "32 22 0:45 / /mnt/netz rw - nfs4 server:/export rw\n"
+                             "33 22 0:46 / /tmp rw - tmpfs tmpfs rw\n"
+                             "34 22 8:2 / /daten rw - ext4 /dev/sda2 rw\n"
+                             "35 22 8:33 / /media/anna/Karte rw - exfat /dev/sdc1 rw\n"
+                             "37 22 8:48 / /srv/wechsel rw - ext4 /dev/sdd rw\n"
+                             "kaputt\n"
+                             "36 22 8:2 /unter /daten/x rw -\n";
 
 // sysfs: dev/block/MAJ:MIN zeigt auf das Gerät; "removable" steht beim Gerät oder, bei einer
 // Partition, bei ihrer Platte (removableIn, relativ zu devices/).

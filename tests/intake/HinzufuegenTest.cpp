@@ -15,8 +15,8 @@
 #include <vector>
 
 namespace {
-const std::string kMp3 = mpeg::Frame(mpeg::Kopf{}) + mpeg::Füllung(2000) +
-                         mpeg::Id3v1("Titel", "Interpret", "", "2001", "", 1, 17);
+const std::string kMp3 =
+    mpeg::Frame(mpeg::Kopf{}) + mpeg::Füllung(2000) + mpeg::Id3v1("Titel", "Interpret", "", "2001", "", 1, 17);
 
 EinsBasiert<std::string> Liste(const std::vector<std::string>& pfade) {
     EinsBasiert<std::string> e;
@@ -49,8 +49,8 @@ TEST(Hinzufuegen, OrdnerbaumUndPlaylisteAlsAblage) {
 
     // Playliste, dann der Ordner (eigene Dateien vor den Unterordnern), dann die einzelne Datei.
     const std::vector<std::string> erwartet = {
-        o / "liste/eins.mp3",  o / "liste/zwei.mp3",    o / "musik/A.MP3",           o / "musik/b.mp3",
-        o / "musik/klang.wav", o / "musik/lied.wma",    o / "musik/sub/c.mp3",       o / "musik/sub/tief/d.aac",
+        o / "liste/eins.mp3",        o / "liste/zwei.mp3", o / "musik/A.MP3",     o / "musik/b.mp3",
+        o / "musik/klang.wav",       o / "musik/lied.wma", o / "musik/sub/c.mp3", o / "musik/sub/tief/d.aac",
         o / "musik/x.mp3/innen.mp3", o / "extra.mp3"};
     EXPECT_EQ(IndexPfade(u.k), erwartet);
     const std::vector<int16_t> typen = {1, 1, 1, 1, 3, 2, 1, 1, 1, 1};
@@ -156,9 +156,10 @@ TEST(Hinzufuegen, OrdnerFehltOderIstLeer) {
     ASSERT_EQ(u.ui.meldungen.size(), 1u);
     EXPECT_EQ(u.ui.meldungen[0].schalter, 48);
     EXPECT_EQ(u.ui.meldungen[0].text,
-              "Beim Hinzufügen des Ordners '" + fehlt + "' ist ein Fehler aufgetreten: \nDer Ordner existiert "
-              "nicht oder ist kein gültiger Ordnername.\n\nÄndern Sie den Ordner-Namen in den Optionen und stellen "
-              "sie sicher, daß sich dieser Ordner auf einem Datenträger befindet, auf den Zugriff möglich ist.");
+              "Beim Hinzufügen des Ordners '" + fehlt +
+                  "' ist ein Fehler aufgetreten: \nDer Ordner existiert "
+                  "nicht oder ist kein gültiger Ordnername.\n\nÄndern Sie den Ordner-Namen in den Optionen und stellen "
+                  "sie sicher, daß sich dieser Ordner auf einem Datenträger befindet, auf den Zugriff möglich ist.");
     EXPECT_EQ(u.ui.titelTexte.back(), "Hinzufügen abgebrochen");
 
     // Ein Stapel vorher, dann ein leerer Ordner: der alte Stapel wird nicht noch einmal übernommen.

@@ -27,26 +27,29 @@ TEST(PlayListe, ZeilenregelnUndPfadformen) {
     const std::string liste = o / "pl/liste.m3u";
     DateiSchreiben(liste, "#EXTM3U\r\n"
                           "#EXTINF:180,Interpret - Titel\r\n"
-                          "a.mp3\r\n"                       // fünf Zeichen: genommen
-                          ".mp3\n"                          // vier: übergangen, obwohl es die Datei gibt
-                          "./.mp3\n"                        // dieselbe Datei, lang genug
-                          "sub/r.mp3\n"                     // neben der Playliste
-                          "wurzel.mp3\r\n"                  // ab der Wurzel
-                          "File1=" + o / "voll.mp3" + "\n"  // PLS-Schlüssel: kein Pfad
-                          " b.mp3\n"                        // Leerzeichen bleiben stehen
-                          "Gr\xFC\xDF" "e.mp3\n"            // Windows-1252
-                          "a.mp3\n"                         // zweimal in einem Lauf: zweimal drin
-                          "fehlt.mp3\n" +
-                          o / "voll.mp3");                  // voller Pfad, schon im Index: abgelehnt
+                          "a.mp3\r\n"       // fünf Zeichen: genommen
+                          ".mp3\n"          // vier: übergangen, obwohl es die Datei gibt
+                          "./.mp3\n"        // dieselbe Datei, lang genug
+                          "sub/r.mp3\n"     // neben der Playliste
+                          "wurzel.mp3\r\n"  // ab der Wurzel
+                          "File1=" +
+                              o / "voll.mp3" +
+                              "\n"        // PLS-Schlüssel: kein Pfad
+                              " b.mp3\n"  // Leerzeichen bleiben stehen
+                              "Gr\xFC\xDF"
+                              "e.mp3\n"  // Windows-1252
+                              "a.mp3\n"  // zweimal in einem Lauf: zweimal drin
+                              "fehlt.mp3\n" +
+                              o / "voll.mp3");  // voller Pfad, schon im Index: abgelehnt
     u.k.DateiPfade.ReDim(1);
     u.k.DateiDaten.ReDim(1);
     u.k.DateiTreffer.ReDim(1);
     u.k.DateiPfade[1] = o / "voll.mp3";
     u.k.DateiAnzahl = 1;
     EXPECT_TRUE(PlayListLesen(u.k, liste, false, false, false));
-    EXPECT_EQ(IndexPfade(u.k), (std::vector<std::string>{o / "voll.mp3", o / "pl/a.mp3", o / "pl/./.mp3",
-                                                          o / "pl/sub/r.mp3", o / "wurzel.mp3", o / "pl/ b.mp3",
-                                                          o / "pl/Grüße.mp3", o / "pl/a.mp3"}));
+    EXPECT_EQ(IndexPfade(u.k),
+              (std::vector<std::string>{o / "voll.mp3", o / "pl/a.mp3", o / "pl/./.mp3", o / "pl/sub/r.mp3",
+                                        o / "wurzel.mp3", o / "pl/ b.mp3", o / "pl/Grüße.mp3", o / "pl/a.mp3"}));
     EXPECT_EQ(u.ui.titelTexte, std::vector<std::string>{"7 Datei(en) hinzugefügt"});  // auch ohne Meldung
     EXPECT_TRUE(u.ui.meldungen.empty());
     ASSERT_FALSE(u.ui.fortschritte.empty());

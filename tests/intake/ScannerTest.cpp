@@ -32,7 +32,7 @@ TEST(Scanner, MaskeBeginntEinZeichenFrueher) {
     EXPECT_TRUE(MaskePasst("LIED.MP3", ".mp3"));
     EXPECT_TRUE(MaskePasst("Grüße.Mp3", ".mP3"));
     EXPECT_FALSE(MaskePasst("lied.mp4", ".mp3"));
-    EXPECT_TRUE(MaskePasst("x.kkt~", ".kkt"));       // die Sicherungskopie des Index passt mit
+    EXPECT_TRUE(MaskePasst("x.kkt~", ".kkt"));  // die Sicherungskopie des Index passt mit
 }
 
 TEST(Scanner, ReihenfolgeAbstiegUndOrdnerMitEndung) {
@@ -48,8 +48,8 @@ TEST(Scanner, ReihenfolgeAbstiegUndOrdnerMitEndung) {
     EXPECT_TRUE(DateienSuchenAPI(u.k, pfad, masken, 1, false));
     EXPECT_EQ(pfad, o.Pfad() + "/");  // der Text des Aufrufers endet jetzt auf "/"
     // Erst die eigenen Dateien in Byte-Reihenfolge, dann die Unterordner, in die Tiefe zuerst.
-    const std::vector<std::string> erwartet = {o / "Z.mp3", o / "a.mp3", o / "b.mp3", o / "sub/c.mp3",
-                                               o / "sub/tief/d.MP3", o / "x.mp3/y.mp3"};
+    const std::vector<std::string> erwartet = {o / "Z.mp3",     o / "a.mp3",          o / "b.mp3",
+                                               o / "sub/c.mp3", o / "sub/tief/d.MP3", o / "x.mp3/y.mp3"};
     EXPECT_EQ(Suchliste(u.k), erwartet);
 
     // Mit "/" am Ende dasselbe; die Liste wächst weiter, bis jemand sie leert.
@@ -65,8 +65,8 @@ TEST(Scanner, ReihenfolgeAbstiegUndOrdnerMitEndung) {
     // Leere Maske: jede Datei, Ordner nie.
     SuchlisteHinzufügen(u.k, "", 1);
     DateienSuchenAPI(u.k, pfad, Masken({""}), 0, false);
-    EXPECT_EQ(Suchliste(u.k), (std::vector<std::string>{o / "Z.mp3", o / "a.mp3", o / "b.mp3", o / "c.txt",
-                                                        o / "d.mp3xy"}));
+    EXPECT_EQ(Suchliste(u.k),
+              (std::vector<std::string>{o / "Z.mp3", o / "a.mp3", o / "b.mp3", o / "c.txt", o / "d.mp3xy"}));
 
     // Ein fehlender Ordner ist leer, das Ergebnis true.
     std::string fehlt = o / "gibtsnicht";

@@ -75,7 +75,11 @@ TEST(Id3v1, TitelnummerKommentarUndGenre) {
     EXPECT_EQ(Aufteilen(umbruch, true).Mp3_ID3v1_Kommentar, "x\ny");
     EXPECT_EQ(Aufteilen(umbruch, true).Mp3_ID3v1_Titel, "ab");
 
-    EXPECT_EQ(TagTextBereinigen(std::string("  a\0b\x01" "c \r\n  ", 12), false), "  abc");
+    EXPECT_EQ(TagTextBereinigen(std::string("  a\0b\x01"
+                                            "c \r\n  ",
+                                            12),
+                                false),
+              "  abc");
     EXPECT_EQ(TagTextBereinigen("a\r\n", true), "a\r\n");
 }
 
@@ -186,8 +190,8 @@ TEST(Id3v1, Entfernen) {
     EXPECT_FALSE(TAGEntfernen(u.k, arbeit, o / "fehlt.mp3", 0, [&] { ++neuLaden; }));
     EXPECT_EQ(neuLaden, 2);
     ASSERT_EQ(u.ui.meldungen.size(), 2u);
-    EXPECT_EQ(u.ui.meldungen[0].text, "Der ID3v1-TAG der Datei '" + pfad +
-                                          "' kann nicht entfernt werden.\nDiese enthält keinen ID3v1-TAG.");
+    EXPECT_EQ(u.ui.meldungen[0].text,
+              "Der ID3v1-TAG der Datei '" + pfad + "' kann nicht entfernt werden.\nDiese enthält keinen ID3v1-TAG.");
     EXPECT_EQ(u.ui.meldungen[0].schalter, 64);
     EXPECT_EQ(u.ui.meldungen[1].text, "Der ID3v1-TAG der Datei '" + o / "fehlt.mp3" +
                                           "' kann nicht entfernt werden.\nDie Datei existiert nicht.");

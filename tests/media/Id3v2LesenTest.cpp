@@ -90,12 +90,8 @@ TEST(Id3v2Lesen, FundstelleUndSuchbereich) {
 TEST(Id3v2Lesen, RahmenDurchlauf) {
     TestOrdner o;
     V2Tag t;
-    t.rahmen = {Text("TIT2", "Erster"),
-                Text("TPE1", "Interpret  "),
-                Kommentar("COMM", "Nur der Text"),
-                Text("xyzq", "unbekannt"),
-                Text("1abc", "Ziffer"),
-                Text("{abc", "Byte 123"),
+    t.rahmen = {Text("TIT2", "Erster"),    Text("TPE1", "Interpret  "), Kommentar("COMM", "Nur der Text"),
+                Text("xyzq", "unbekannt"), Text("1abc", "Ziffer"),      Text("{abc", "Byte 123"),
                 Text("TIT2", "Zweiter"),  // der letzte gewinnt
                 Text("PCNT", "5")};
     t.padding = 30;
@@ -138,7 +134,10 @@ TEST(Id3v2Lesen, Kodierungen) {
     V2Tag t;
     t.rahmen = {Text("TIT2", mpeg::Utf16("Titel \xC4", false, true), 1),
                 Text("TPE1", mpeg::Utf16("Gro\xDF", true, false), 2),
-                Text("TALB", "Gr\xC3\xBC\xC3\x9F" "e", 3),
+                Text("TALB",
+                     "Gr\xC3\xBC\xC3\x9F"
+                     "e",
+                     3),
                 Text("TCON", "Caf\xE9 \x80", 0),
                 Kommentar("COMM", mpeg::Utf16("Kommentar", false, true), mpeg::Utf16("", false, true), 1),
                 Text("TYER", mpeg::Utf16("2001", true, true) + std::string(2, '\0'), 1),

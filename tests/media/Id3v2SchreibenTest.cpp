@@ -106,8 +106,8 @@ TEST(Id3v2Schreiben, AnOrtUndStelleOderNeu) {
     // Alter Tag genau Summe + 10: an Ort und Stelle, ohne Auffüllung, Länge bleibt.
     DateiSchreiben(pfad, AlterTag(summe + 10) + kAudio);
     ASSERT_TRUE(MP3TagSpeichernV2Datei(u.k, pfad, fehler, d)) << fehler;
-    EXPECT_EQ(DateiLesen(pfad), Mp3TAGSpeichernV2TAGHeaderZurückgeben(summe) + Rahmen("TPE1", "Wer") +
-                                    Rahmen("TIT2", "Was") + kAudio);
+    EXPECT_EQ(DateiLesen(pfad),
+              Mp3TAGSpeichernV2TAGHeaderZurückgeben(summe) + Rahmen("TPE1", "Wer") + Rahmen("TIT2", "Was") + kAudio);
 
     // Größerer alter Tag: der Rest wird Auffüllung, die Länge bleibt auf das Byte.
     DateiSchreiben(pfad, AlterTag(200) + kAudio);
@@ -314,10 +314,10 @@ TEST(Id3v2Schreiben, Entfernen) {
     EXPECT_FALSE(TAGEntfernenV2(u.k, o / "fehlt", 0, false, rest, nullptr, [&] { ++neuLaden; }));
     EXPECT_EQ(neuLaden, 1);
     ASSERT_EQ(u.ui.meldungen.size(), 2u);
-    EXPECT_EQ(u.ui.meldungen[0].text, "Der ID3v2-TAG der Datei '" + pfad +
-                                          "' kann nicht entfernt werden.\nDiese enthält keinen ID3v2-TAG.");
-    EXPECT_EQ(u.ui.meldungen[1].text, "Der ID3v2-TAG der Datei '" + o / "fehlt" +
-                                          "' kann nicht entfernt werden.\nDie Datei existiert nicht.");
+    EXPECT_EQ(u.ui.meldungen[0].text,
+              "Der ID3v2-TAG der Datei '" + pfad + "' kann nicht entfernt werden.\nDiese enthält keinen ID3v2-TAG.");
+    EXPECT_EQ(u.ui.meldungen[1].text,
+              "Der ID3v2-TAG der Datei '" + o / "fehlt" + "' kann nicht entfernt werden.\nDie Datei existiert nicht.");
     EXPECT_EQ(u.ui.meldungen[1].schalter, 64);
 
     // Tag am Dateianfang, schreibgeschützter Ordner: Meldung, Datei unverändert.

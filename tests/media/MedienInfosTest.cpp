@@ -20,7 +20,7 @@ bool Format(Kartei& k, const std::string& datei, bool videos, bool audios, bool 
 
 // Zeitstempel der Datei auf einen Tag in Ortszeit setzen.
 void DateiZeitSetzen(const std::string& pfad, int jahr, int monat, int tag) {
-    std::tm t {};
+    std::tm t{};
     t.tm_year = jahr - 1900, t.tm_mon = monat - 1, t.tm_mday = tag, t.tm_hour = 12, t.tm_isdst = -1;
     const timeval zeiten[2] = {{std::mktime(&t), 0}, {std::mktime(&t), 0}};
     ::utimes(pfad.c_str(), zeiten);

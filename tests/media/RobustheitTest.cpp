@@ -35,8 +35,8 @@ std::string Vorlage(std::mt19937& z) {
 }
 
 std::string Verstümmeln(std::string d, std::mt19937& z) {
-    static const std::string muster[] = {"ID3", "\xFF\xFB", "\xFF\xFA", "3DI", "TAG", "Xing", std::string(4, '\0'),
-                                         std::string("\xFF\xFF\xFF\xFF", 4)};
+    static const std::string muster[] = {"ID3", "\xFF\xFB", "\xFF\xFA",           "3DI",
+                                         "TAG", "Xing",     std::string(4, '\0'), std::string("\xFF\xFF\xFF\xFF", 4)};
     const int schritte = 1 + static_cast<int>(z() % 8);
     for (int i = 0; i < schritte && !d.empty(); ++i) {
         const size_t pos = z() % d.size();

@@ -31,7 +31,7 @@ TEST(KonfigRegistrierung, EinstellungenÜberstehenSpeichernUndNeustart) {
         EinstellungenLesen(a.k);
         a.k.Dateiname = "/musik/Meine Kartei.kkt";
         a.k.E.Mp3TagLesen = "111";
-        a.k.E.AutoTagAktuell = "12345";          // sieht aus wie eine Zahl, bleibt Text
+        a.k.E.AutoTagAktuell = "12345";  // sieht aus wie eine Zahl, bleibt Text
         a.k.E.UmbenennenEingabeNeuZahl = "007";
         a.k.E.KopierenOrdner = "a\\b\nc\rd";
         a.k.E.FensterWidth = 1024;
@@ -74,25 +74,25 @@ TEST(KonfigRegistrierung, KaputteZeilenWerdenÜbergangen) {
     TestOrdner t;
     const std::string pfad = t / "klangkartei.conf";
     DateiSchreiben(pfad, "ohne Gleichheitszeichen\n"
-                                     "=t:ohne Namen\n"
-                                     "Art=q:1\n"
-                                     "Kurz=t\n"
-                                     "Buchstaben=z:abc\n"
-                                     "Komma=z:1,5\n"
-                                     "Riesig=z:99999999999\n"
-                                     "# Kommentar=t:x\n"
-                                     "\xff\xfe\x00\x01=\n"
-                                     "Mp3TagLesen=t:011\r\n"
-                                     "FensterMax=z:1\n"
-                                     "Leer=t:\n"
-                                     "Doppelt=t:erst\n"
-                                     "Doppelt=t:dann\n"
-                                     "Gleich=t:a=b\n"
-                                     "Ende=t:ohne Zeilenende"s);
+                         "=t:ohne Namen\n"
+                         "Art=q:1\n"
+                         "Kurz=t\n"
+                         "Buchstaben=z:abc\n"
+                         "Komma=z:1,5\n"
+                         "Riesig=z:99999999999\n"
+                         "# Kommentar=t:x\n"
+                         "\xff\xfe\x00\x01=\n"
+                         "Mp3TagLesen=t:011\r\n"
+                         "FensterMax=z:1\n"
+                         "Leer=t:\n"
+                         "Doppelt=t:erst\n"
+                         "Doppelt=t:dann\n"
+                         "Gleich=t:a=b\n"
+                         "Ende=t:ohne Zeilenende"s);
     KonfigRegistrierung r(pfad);
     EXPECT_TRUE(r.SchlüsselÖffnen());
-    for (const char* fehlt : {"ohne Gleichheitszeichen", "", "Art", "Kurz", "Buchstaben", "Komma", "Riesig",
-                              "# Kommentar"})
+    for (const char* fehlt :
+         {"ohne Gleichheitszeichen", "", "Art", "Kurz", "Buchstaben", "Komma", "Riesig", "# Kommentar"})
         EXPECT_FALSE(r.WertLesen(fehlt)) << fehlt;
     EXPECT_EQ(r.WertLesen("Mp3TagLesen")->text, "011");
     EXPECT_EQ(r.WertLesen("FensterMax")->zahl, 1);

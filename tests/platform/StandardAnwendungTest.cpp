@@ -30,8 +30,8 @@ private:
 
 // Ein Ersatz für xdg-mime, der die Kennung ausgibt.
 void XdgMimeAnlegen(const std::string& ordner, const std::string& ausgabe) {
-    DateiSchreiben(ordner + "/xdg-mime", "#!/bin/sh\n[ \"$1 $2 $3\" = \"query default audio/mpeg\" ] || exit 3\necho '" +
-                                             ausgabe + "'\n");
+    DateiSchreiben(ordner + "/xdg-mime",
+                   "#!/bin/sh\n[ \"$1 $2 $3\" = \"query default audio/mpeg\" ] || exit 3\necho '" + ausgabe + "'\n");
     std::filesystem::permissions(ordner + "/xdg-mime", std::filesystem::perms::owner_all);
 }
 }  // namespace

@@ -66,9 +66,9 @@ TEST(CliSuche, Search) {
     EXPECT_EQ(a.aus, "");
     EXPECT_EQ(a.fehler, "0 Datei(en) gefunden\n4 Datei(en) im Index\n");
 
-    for (const A& falsch : {A{"search"}, A{"search", "--field", "Quatsch", "x"}, A{"search", "--row", "Titel:0:x"},
-                            A{"search", "--row", "Titel:00:x", "tag"}, A{"search", "a", "b"},
-                            A{"search", "--gibtsnicht", "x"}}) {
+    for (const A& falsch :
+         {A{"search"}, A{"search", "--field", "Quatsch", "x"}, A{"search", "--row", "Titel:0:x"},
+          A{"search", "--row", "Titel:00:x", "tag"}, A{"search", "a", "b"}, A{"search", "--gibtsnicht", "x"}}) {
         a = Cli(o, falsch);
         EXPECT_EQ(a.rückgabe, 2) << falsch[1];
         EXPECT_EQ(a.aus, "");

@@ -132,12 +132,32 @@ TEST(SucheAblauf, FeldwahlErweiterteSucheUndLöschen) {
 }
 
 namespace {
-const std::vector<std::string> kWörter = {
-    "", "nacht", "STADT", "die", "ärzte", "ÜBER", "/home", "mp3", "a1", "x1", "20", "grün", "e", "Rock",
-    "2001", "Lied", "2.3.0", "12.", "Tag", "Wind", "einstürzende neubauten", "Ton Steine Scherben", "Kraftwerk"};
-const std::vector<std::string> kFelder = {"(Standardsuche)", "(Standardsuche)", "(Standardsuche)", "Interpret",
-                                          "Titel", "Jahr", "Pfad", "Genre-ID3v2", "Hinzufüge-Datum", "Dauer",
-                                          "Interpret-ID3v2", "Track"};
+const std::vector<std::string> kWörter = {"",
+                                          "nacht",
+                                          "STADT",
+                                          "die",
+                                          "ärzte",
+                                          "ÜBER",
+                                          "/home",
+                                          "mp3",
+                                          "a1",
+                                          "x1",
+                                          "20",
+                                          "grün",
+                                          "e",
+                                          "Rock",
+                                          "2001",
+                                          "Lied",
+                                          "2.3.0",
+                                          "12.",
+                                          "Tag",
+                                          "Wind",
+                                          "einstürzende neubauten",
+                                          "Ton Steine Scherben",
+                                          "Kraftwerk"};
+const std::vector<std::string> kFelder = {
+    "(Standardsuche)", "(Standardsuche)", "(Standardsuche)", "Interpret",       "Titel", "Jahr", "Pfad",
+    "Genre-ID3v2",     "Hinzufüge-Datum", "Dauer",           "Interpret-ID3v2", "Track"};
 
 std::string Zufallstext(std::mt19937& z, int wörter) {
     std::string t;

@@ -56,8 +56,8 @@ TEST(EinstellungsListen, ZustandEntscheidetÜberVorgabenLeereUndGelesenes) {
     struct Fall {
         int16_t zustand;
         bool ersterWertDa;
-        int32_t formate;          // erwartete Länge der Formatliste
-        int16_t formatZustand;    // danach
+        int32_t formate;        // erwartete Länge der Formatliste
+        int16_t formatZustand;  // danach
         int16_t ausschlussZustand;
     };
     for (const Fall& f : {Fall{-1, true, 23, 0, 1}, Fall{1, true, 1, 1, 1}, Fall{0, true, 1, 0, 0},
@@ -89,9 +89,9 @@ TEST(EinstellungsListen, ListenwerteUndTabellennamenWerdenErkannt) {
     EXPECT_STREQ(w->liste->name, "AutoTagFormate");
     EXPECT_EQ(w->nummer, 12);
     EXPECT_TRUE(ListenWertFinden("autotagausschluß3"));
-    for (const char* kein : {"AutoTagFormate", "AutoTagFormate0", "AutoTagFormate01", "AutoTagFormate+1",
-                             "AutoTagFormate-1", "AutoTagFormate1x", "AutoTagAusschlußLeer",
-                             "AutoTagFormate99999999999"})
+    for (const char* kein :
+         {"AutoTagFormate", "AutoTagFormate0", "AutoTagFormate01", "AutoTagFormate+1", "AutoTagFormate-1",
+          "AutoTagFormate1x", "AutoTagAusschlußLeer", "AutoTagFormate99999999999"})
         EXPECT_FALSE(ListenWertFinden(kein)) << kein;
 
     const auto* e = EinstellungFinden("winamplautstärke");

@@ -91,12 +91,12 @@ TEST(EinstellungenSpeicher, Mp3TagLesenWirdAufDreiStellenErgänzt) {
 TEST(EinstellungenSpeicher, FalscheArtGibtDieVorgabe) {
     TestUmgebung u;
     auto& w = u.registrierung.werte;
-    w["FensterMax"] = Text("1");              // Text statt Zahl
-    w["Mp3TagLesen"] = Zahl(111);             // Zahl statt Text
-    w["WinampLautstärke"] = Zahl(70000);      // passt nicht in einen Integer
-    w["WinampBalance"] = Zahl(-200);          // passt, wird erst beim Start repariert
-    w["FarbeListen"] = Zahl(-1);              // Long: jeder 32-Bit-Wert
-    w["AutoTagAktuell"] = Text("12345");      // Text, der wie eine Zahl aussieht
+    w["FensterMax"] = Text("1");          // Text statt Zahl
+    w["Mp3TagLesen"] = Zahl(111);         // Zahl statt Text
+    w["WinampLautstärke"] = Zahl(70000);  // passt nicht in einen Integer
+    w["WinampBalance"] = Zahl(-200);      // passt, wird erst beim Start repariert
+    w["FarbeListen"] = Zahl(-1);          // Long: jeder 32-Bit-Wert
+    w["AutoTagAktuell"] = Text("12345");  // Text, der wie eine Zahl aussieht
     EinstellungenLesen(u.k);
     EXPECT_EQ(u.k.E.FensterMax, 0);
     EXPECT_EQ(u.k.E.Mp3TagLesen, "101");

@@ -21,7 +21,7 @@ void TestOberfläche::EreignisseVerarbeiten() {
 }
 
 NichtVerfügbarAntwort TestOberfläche::DateiNichtVerfügbar(const std::string& pfad, const std::string& text,
-                                                           const std::function<bool()>& dateiDa) {
+                                                          const std::function<bool()>& dateiDa) {
     nichtVerfügbarFragen.push_back({pfad, text});
     if (währendNichtVerfügbar) währendNichtVerfügbar();
     if (dateiDa && dateiDa()) return NichtVerfügbarAntwort::Weiter;

@@ -30,7 +30,7 @@ public:
     // Läuft, während die Frage offen ist (etwa: den Datenträger "einlegen"). Ist die Datei danach
     // da, endet die Frage von selbst mit Weiter, ohne eine Antwort aus dem Skript zu nehmen.
     std::function<void()> währendNichtVerfügbar;
-    std::deque<std::string> namen;    // Antworten auf NamenEingeben ("" am Anfang = Abbrechen mit "\x01")
+    std::deque<std::string> namen;  // Antworten auf NamenEingeben ("" am Anfang = Abbrechen mit "\x01")
     std::deque<std::string> ordner;
     std::deque<std::vector<std::string>> dateiListen;
 

@@ -7,15 +7,34 @@
 #include <cstdio>
 
 namespace {
-const std::array<const char*, 24> kInterpreten = {
-    "Die Ärzte", "Herbert Grönemeyer", "Motörhead", "Björk", "Kraftwerk", "Nena", "Element of Crime",
-    "Tocotronic", "The Notwist", "Rammstein", "Einstürzende Neubauten", "Portishead", "Massive Attack",
-    "Radiohead", "Blumfeld", "Wir sind Helden", "Fehlfarben", "Ton Steine Scherben", "Can", "Neu!",
-    "Lambchop", "Calexico", "Sophie Hunger", "Mouse on Mars"};
-const std::array<const char*, 32> kWörter = {
-    "Nacht", "Stadt", "Licht", "Regen", "über", "allem", "Zeit", "Sommer", "Winter", "Straße", "blau",
-    "Meer", "fern", "Weg", "Haus", "Herz", "Lied", "Morgen", "Abend", "Grün", "schön", "Fluss", "Wind",
-    "Spiegel", "Traum", "Stille", "Echo", "Land", "Feuer", "Wasser", "Tag", "Himmel"};
+const std::array<const char*, 24> kInterpreten = {"Die Ärzte",
+                                                  "Herbert Grönemeyer",
+                                                  "Motörhead",
+                                                  "Björk",
+                                                  "Kraftwerk",
+                                                  "Nena",
+                                                  "Element of Crime",
+                                                  "Tocotronic",
+                                                  "The Notwist",
+                                                  "Rammstein",
+                                                  "Einstürzende Neubauten",
+                                                  "Portishead",
+                                                  "Massive Attack",
+                                                  "Radiohead",
+                                                  "Blumfeld",
+                                                  "Wir sind Helden",
+                                                  "Fehlfarben",
+                                                  "Ton Steine Scherben",
+                                                  "Can",
+                                                  "Neu!",
+                                                  "Lambchop",
+                                                  "Calexico",
+                                                  "Sophie Hunger",
+                                                  "Mouse on Mars"};
+const std::array<const char*, 32> kWörter = {"Nacht",  "Stadt",  "Licht", "Regen", "über",  "allem",  "Zeit", "Sommer",
+                                             "Winter", "Straße", "blau",  "Meer",  "fern",  "Weg",    "Haus", "Herz",
+                                             "Lied",   "Morgen", "Abend", "Grün",  "schön", "Fluss",  "Wind", "Spiegel",
+                                             "Traum",  "Stille", "Echo",  "Land",  "Feuer", "Wasser", "Tag",  "Himmel"};
 const std::array<const char*, 4> kModi = {"Stereo", "Joint Stereo", "Dual Channel", "Single Channel"};
 const std::array<const char*, 6> kGenres = {"(17)Rock", "(13)Pop", "(8)Jazz", "Electronic", "(20)Alternative", ""};
 
@@ -44,8 +63,7 @@ std::string DatumText(std::mt19937& z, bool mitZeit) {
     if (mitZeit)
         std::snprintf(puffer, sizeof puffer, "%02d.%02d.%04d %02d:%02d:%02d", Zahl(z, 1, 28), Zahl(z, 1, 12),
                       Zahl(z, 1999, 2024), Zahl(z, 0, 23), Zahl(z, 0, 59), Zahl(z, 0, 59));
-    else
-        std::snprintf(puffer, sizeof puffer, "%02d.%02d.%04d", Zahl(z, 1, 28), Zahl(z, 1, 12), Zahl(z, 1999, 2024));
+    else std::snprintf(puffer, sizeof puffer, "%02d.%02d.%04d", Zahl(z, 1, 28), Zahl(z, 1, 12), Zahl(z, 1999, 2024));
     return puffer;
 }
 }  // namespace

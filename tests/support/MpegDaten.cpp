@@ -92,9 +92,9 @@ std::string Id3v2(const V2Tag& t) {
     uint8_t flags = t.flags;
     if (!t.erweiterterKopf.empty()) flags |= 0x40;
     if (t.fußzeile) flags |= 0x10;
-    const std::string rest = std::string{static_cast<char>(t.major), static_cast<char>(t.minor),
-                                         static_cast<char>(flags)} +
-                             SyncSafe(static_cast<uint32_t>(körper.size()));
+    const std::string rest =
+        std::string{static_cast<char>(t.major), static_cast<char>(t.minor), static_cast<char>(flags)} +
+        SyncSafe(static_cast<uint32_t>(körper.size()));
     return "ID3" + rest + körper + (t.fußzeile ? "3DI" + rest : "");
 }
 

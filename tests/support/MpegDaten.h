@@ -9,14 +9,14 @@ namespace mpeg {
 
 // Die Felder eines Frame-Kopfes als rohe Bitwerte.
 struct Kopf {
-    int version = 3;       // 3 = MPEG 1, 2 = MPEG 2, 0 = MPEG 2.5, 1 = reserviert
-    int layer = 1;         // 1 = Layer III, 2 = Layer II, 3 = Layer I, 0 = reserviert
-    bool crc = false;      // true: Schutzbit 0 (mit Prüfsumme)
-    int bitrate = 9;       // Index 0..15 (9 = 128 kbit/s bei MPEG 1 Layer III)
-    int frequenz = 0;      // Index 0..3
+    int version = 3;   // 3 = MPEG 1, 2 = MPEG 2, 0 = MPEG 2.5, 1 = reserviert
+    int layer = 1;     // 1 = Layer III, 2 = Layer II, 3 = Layer I, 0 = reserviert
+    bool crc = false;  // true: Schutzbit 0 (mit Prüfsumme)
+    int bitrate = 9;   // Index 0..15 (9 = 128 kbit/s bei MPEG 1 Layer III)
+    int frequenz = 0;  // Index 0..3
     bool padding = false;
     bool privat = false;
-    int modus = 0;         // 0 Stereo .. 3 Single Channel
+    int modus = 0;  // 0 Stereo .. 3 Single Channel
     int erweiterung = 0;
     bool copyright = false;
     bool original = false;
@@ -42,7 +42,7 @@ std::string Utf16(std::string_view latin1, bool bigEndian, bool bom);
 
 struct Rahmen {
     std::string id;
-    std::string inhalt;              // roh, Kodierungsbyte eingeschlossen
+    std::string inhalt;  // roh, Kodierungsbyte eingeschlossen
     std::string flags = std::string(2, '\0');
 };
 // Textrahmen: Kodierungsbyte und Text (schon in der Kodierung).
@@ -54,11 +54,11 @@ Rahmen Kommentar(const std::string& id, const std::string& text, const std::stri
 struct V2Tag {
     int major = 3;
     int minor = 0;
-    uint8_t flags = 0;               // zusätzlich zu Fußzeile/erweitertem Kopf
-    std::string erweiterterKopf;     // roh; nicht leer setzt Flag 0x40
+    uint8_t flags = 0;            // zusätzlich zu Fußzeile/erweitertem Kopf
+    std::string erweiterterKopf;  // roh; nicht leer setzt Flag 0x40
     std::vector<Rahmen> rahmen;
     size_t padding = 0;
-    bool fußzeile = false;           // setzt Flag 0x10 und hängt "3DI" an
+    bool fußzeile = false;  // setzt Flag 0x10 und hängt "3DI" an
 };
 // Rahmenkopf je Version: 2.2 drei Zeichen + drei Größenbytes, 2.3 Größe als Zahl, 2.4 SyncSafe.
 std::string RahmenBytes(const Rahmen& r, int major);

@@ -16,7 +16,8 @@ TestOrdner::~TestOrdner() {
     std::error_code fehler;
     // Schreibschutz aus Tests darf das Aufräumen nicht verhindern.
     for (auto& e : std::filesystem::recursive_directory_iterator(pfad_, fehler))
-        std::filesystem::permissions(e.path(), std::filesystem::perms::owner_all, std::filesystem::perm_options::add, fehler);
+        std::filesystem::permissions(e.path(), std::filesystem::perms::owner_all, std::filesystem::perm_options::add,
+                                     fehler);
     std::filesystem::remove_all(pfad_, fehler);
 }
 

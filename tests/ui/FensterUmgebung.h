@@ -75,9 +75,9 @@ inline std::string LiederIndex(const TestOrdner& ordner, const std::function<voi
     u.k.E.StartBildschirm = 0;
     const struct {
         const char *datei, *titel, *interpret;
-    } lieder[] = {{"01 Ein Tag.mp3", "Ein Tag", "Band A"},       {"02 Ein Tag am Meer.mp3", "Ein Tag am Meer", "Band B"},
-                  {"03 Tag ein.mp3", "Tag ein", "Band A"},       {"04 Nacht.mp3", "Nacht", "Chor"},
-                  {"05 Morgen.mp3", "Morgen", "Band C"},         {"unter/06 Abend.mp3", "Abend", "Chor"}};
+    } lieder[] = {{"01 Ein Tag.mp3", "Ein Tag", "Band A"}, {"02 Ein Tag am Meer.mp3", "Ein Tag am Meer", "Band B"},
+                  {"03 Tag ein.mp3", "Tag ein", "Band A"}, {"04 Nacht.mp3", "Nacht", "Chor"},
+                  {"05 Morgen.mp3", "Morgen", "Band C"},   {"unter/06 Abend.mp3", "Abend", "Chor"}};
     u.k.DateiPfade.ReDim(6);
     u.k.DateiDaten.ReDim(6);
     u.k.DateiTreffer.ReDim(6);

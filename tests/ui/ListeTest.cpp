@@ -93,8 +93,8 @@ void ListeTest::TippenSortierenWaehlenEntfernen() {
     QTest::keyClick(liste, Qt::Key_Delete);
     QCOMPARE(w.k.DateiAnzahl, 3);
     QCOMPARE(w.Zeilen(), 3);
-    QCOMPARE(Spalte(liste, 2), (QStringList{QStringLiteral("Ein Tag am Meer"), QStringLiteral("Ein Tag"),
-                                            QStringLiteral("Abend")}));
+    QCOMPARE(Spalte(liste, 2),
+             (QStringList{QStringLiteral("Ein Tag am Meer"), QStringLiteral("Ein Tag"), QStringLiteral("Abend")}));
     QCOMPARE(w.Text("lblIndexdateiUntertitel1"), QStringLiteral("Markieren Sie eine Datei, um ihre Beschreibung "
                                                                 "anzuzeigen oder weitere Funktionen zu aktivieren."));
     QVERIFY(!w.Kind<QWidget>("fraNurBeiAusgewählt")->isVisible());
@@ -110,7 +110,6 @@ void ListeTest::TippenSortierenWaehlenEntfernen() {
     QTest::keyClick(liste, Qt::Key_Return);
     QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht verfügbar."));
 }
-
 
 void ListeTest::FeldsucheMitVorschlaegenUndErgaenzung() {
     TestOrdner ordner;
@@ -168,7 +167,6 @@ void ListeTest::FeldsucheMitVorschlaegenUndErgaenzung() {
     QVERIFY(cboSuche->isEnabled());
     QCOMPARE(w.Zeilen(), 6);
 }
-
 
 void ListeTest::KontextmenueUndAuswahlhelfer() {
     TestOrdner ordner;
@@ -236,7 +234,8 @@ void ListeTest::OrdnerHinzufuegenAblegenZiehen() {
     QCOMPARE(w.Zeilen(), 3);
     QVERIFY(w.k.DateiGeändert);
     auto* liste = w.f->lstSongs();
-    QCOMPARE(Spalte(liste, 2), (QStringList{QStringLiteral("Ein Tag"), QStringLiteral("Nacht"), QStringLiteral("Abend")}));
+    QCOMPARE(Spalte(liste, 2),
+             (QStringList{QStringLiteral("Ein Tag"), QStringLiteral("Nacht"), QStringLiteral("Abend")}));
     QCOMPARE(w.Text("lblDateiAnzahl"), QStringLiteral("3 Datei(en) gefunden\n3 Datei(en) im Index"));
     QCOMPARE(w.Text("lblIndexdateiUntertitel1"), QStringLiteral("Es wurden 3 Dateien gewählt."));  // die neuen
     QTRY_VERIFY_WITH_TIMEOUT(w.f->windowTitle().startsWith(QStringLiteral("3 Datei(en) hinzugefügt")), 3000);
@@ -263,7 +262,6 @@ void ListeTest::OrdnerHinzufuegenAblegenZiehen() {
     QCOMPARE(w.k.Suche.AusgewähltAnzahl, 1);  // die neue Zeile ist markiert
     QCOMPARE(w.Text("lblIndexdateiUntertitel1"), QStringLiteral("04 Morgen.mp3"));
 }
-
 
 // Kopfleiste, Gitter, die eigene Spalte mit ihrem Muster als Kopf, Breiten in Twips hin und zurück.
 void ListeTest::SpaltenAusDenIndexOptionen() {

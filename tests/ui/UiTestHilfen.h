@@ -45,9 +45,7 @@ struct GuiUmgebung {
     std::vector<AufgezeichneteMeldung> meldungen;
     std::deque<int> antworten;  // für Ja/Nein/Abbrechen-Fragen, der Reihe nach
 
-    GuiUmgebung() {
-        ui.meldungsSkript = MeldungenNachSkript(meldungen, antworten);
-    }
+    GuiUmgebung() { ui.meldungsSkript = MeldungenNachSkript(meldungen, antworten); }
     bool MeldungGezeigt(const std::string& text) const {
         for (const auto& m : meldungen)
             if (m.text == text) return true;

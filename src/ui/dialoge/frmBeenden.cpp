@@ -49,8 +49,6 @@ bool frmBeenden::Immer() const { return chkImmer_->isChecked(); }
 
 void frmBeenden::Wählen(int16_t auswahl) {
     BeendenAuswahl = auswahl;
-    if (auswahl == 0)
-        reject();
-    else
-        accept();
+    if (auswahl == 0) reject();
+    else accept();
 }

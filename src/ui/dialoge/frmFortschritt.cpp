@@ -57,8 +57,7 @@ void frmFortschritt::Darstellen(const FortschrittAnsicht& a) {
     lblProzess_->setVisible(a.prozessSichtbar);
     if (a.prozessSichtbar) {
         // Lange Pfade in der Mitte kürzen, damit das Fenster seine Breite behält.
-        const QString text = lblProzess_->fontMetrics().elidedText(Q(a.prozess), Qt::ElideMiddle,
-                                                                   lblProzess_->width());
+        const QString text = lblProzess_->fontMetrics().elidedText(Q(a.prozess), Qt::ElideMiddle, lblProzess_->width());
         if (lblProzess_->text() != text) lblProzess_->setText(text);
     }
     cmdAbbrechen_->setVisible(a.abbrechenSichtbar);
@@ -73,10 +72,8 @@ void frmFortschritt::Darstellen(const FortschrittAnsicht& a) {
 void frmFortschritt::Zentrieren() {
     QWidget* besitzer = parentWidget();
     QRect fläche;
-    if (besitzer && besitzer->isVisible() && !besitzer->isMinimized())
-        fläche = besitzer->frameGeometry();
-    else if (QScreen* bildschirm = QGuiApplication::primaryScreen())
-        fläche = bildschirm->availableGeometry();
+    if (besitzer && besitzer->isVisible() && !besitzer->isMinimized()) fläche = besitzer->frameGeometry();
+    else if (QScreen* bildschirm = QGuiApplication::primaryScreen()) fläche = bildschirm->availableGeometry();
     if (fläche.isValid()) move(fläche.center() - rect().center());
 }
 

@@ -15,8 +15,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-frmIndexÖffnen::frmIndexÖffnen(QWidget* besitzer, Kartei& k, GuiOberfläche& ui)
-    : QDialog(besitzer), k_(k), ui_(ui) {
+frmIndexÖffnen::frmIndexÖffnen(QWidget* besitzer, Kartei& k, GuiOberfläche& ui) : QDialog(besitzer), k_(k), ui_(ui) {
     setObjectName(QStringLiteral("frmIndexÖffnen"));
     setWindowTitle(QStringLiteral("Indexdatei"));
     auto* lbl = new QLabel(QStringLiteral("&Indexdatei:"), this);
@@ -85,8 +84,7 @@ void frmIndexÖffnen::cmdIndexdateiSpeichernUnter_Click() {
     if (!ui_.DateiZumSpeichernWählen("Indexdatei speichern unter", "Indexdateien (*.kkt)|*.kkt",
                                      PfadZurückgeben(k_.Dateiname), datei))
         return;
-    if (DateiSpeichern(k_, datei, true))
-        k_.ui.MeldungZeigen("Die Indexdatei wurde gespeichert.", Meldung::Information);
+    if (DateiSpeichern(k_, datei, true)) k_.ui.MeldungZeigen("Die Indexdatei wurde gespeichert.", Meldung::Information);
 }
 
 void frmIndexÖffnen::cmdOk_Click() {

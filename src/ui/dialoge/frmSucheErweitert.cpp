@@ -96,13 +96,10 @@ void frmSucheErweitert::cmdSucheÄndern_Click() {
 void frmSucheErweitert::cmdSucheLöschen_Click() {
     const int32_t zeile = GewählteZeile();
     if (zeile == 0) return;
-    if (k_.ui.MeldungZeigen("Möchten Sie diese Such-Abfrage tatsächlich löschen?", Meldung::JaNeinFrage) !=
-        Meldung::Ja)
+    if (k_.ui.MeldungZeigen("Möchten Sie diese Such-Abfrage tatsächlich löschen?", Meldung::JaNeinFrage) != Meldung::Ja)
         return;
-    if (SuchbegriffeLöschen(k_.Suche, zeile))
-        delete lstSucheAuflistung_->takeItem(zeile - 1);
-    else
-        k_.ui.MeldungZeigen("Die Such-Abfrage konnte nicht gelöscht werden.", Meldung::Ausrufezeichen);
+    if (SuchbegriffeLöschen(k_.Suche, zeile)) delete lstSucheAuflistung_->takeItem(zeile - 1);
+    else k_.ui.MeldungZeigen("Die Such-Abfrage konnte nicht gelöscht werden.", Meldung::Ausrufezeichen);
     cmdAbbrechen_->setEnabled(false);
 }
 

@@ -145,13 +145,11 @@ void frmSucheErweitertHinzufügen::cmdOk_Click() {
     if (chkHinzu_->isChecked()) {
         if (!SuchbegriffeHinzufügen(s, text, name, bedingung))
             k_.ui.MeldungZeigen("Die Such-Abfrage konnte nicht gespeichert werden.", Meldung::Ausrufezeichen);
-        else
-            zeile_ = s.SuchAnzahl;
+        else zeile_ = s.SuchAnzahl;
     } else {
         if (!SuchbegriffeÄndern(s, tag_, text, name, bedingung))
             k_.ui.MeldungZeigen("Die Such-Abfrage konnte nicht geändert werden.", Meldung::Ausrufezeichen);
-        else
-            zeile_ = tag_;
+        else zeile_ = tag_;
     }
     accept();
 }
