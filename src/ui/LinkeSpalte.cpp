@@ -1,9 +1,11 @@
 #include "ui/LinkeSpalte.h"
 
 #include "settings/Einstellungen.h"
+#include "ui/FensterBefehle.h"
 #include "ui/LinkLabel.h"
 #include "ui/Umrechnung.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -15,7 +17,7 @@ void FarbeSetzen(QWidget* w, QPalette::ColorRole rolle, const QColor& farbe) {
 }
 }  // namespace
 
-LinkeSpalte::LinkeSpalte(QWidget* eltern) : QFrame(eltern) {
+LinkeSpalte::LinkeSpalte(const FensterBefehle& b, QWidget* eltern) : QFrame(eltern) {
     setObjectName(QStringLiteral("fraLinks1"));
     setAutoFillBackground(true);
     setMouseTracking(true);
@@ -30,35 +32,35 @@ LinkeSpalte::LinkeSpalte(QWidget* eltern) : QFrame(eltern) {
     links2->setContentsMargins(0, 0, 0, 0);
     links2->setSpacing(2);
     QWidget* index = Gruppe(QStringLiteral("fraIndex"), QStringLiteral("Index"), fraLinks2_);
-    Hinzufügen(index, "cmdIndexErstellen", "Zum Index hinzufügen");
-    Hinzufügen(index, "cmdListeAufräumen", "Index synchronisieren");
-    Hinzufügen(index, "cmdIndexVerwaltung", "Index-Verwaltung");
-    Hinzufügen(index, "cmdIndexStatistik", "Index-Statistiken");
-    Hinzufügen(index, "cmdAutoDJ", "AutoDJ");
-    Hinzufügen(index, "cmdAuswählen", "Auswählen");
+    Hinzufügen(index, b.cmdIndexErstellen);
+    Hinzufügen(index, b.cmdListeAufräumen);
+    Hinzufügen(index, b.cmdIndexVerwaltung);
+    Hinzufügen(index, b.cmdIndexStatistik);
+    Hinzufügen(index, b.cmdAutoDJ);
+    Hinzufügen(index, b.cmdAuswählen);
     links2->addWidget(index);
 
     fraNurBeiAusgewählt_ =
         Gruppe(QStringLiteral("fraNurBeiAusgewählt"), QStringLiteral("Gewählte Dateien"), fraLinks2_);
-    Hinzufügen(fraNurBeiAusgewählt_, "cmdEintragAbspielen", "Abspielen");
-    Hinzufügen(fraNurBeiAusgewählt_, "cmdAnhängen", "In Playlist");
-    Hinzufügen(fraNurBeiAusgewählt_, "cmdEintragAusführen", "Ausführen");
-    Hinzufügen(fraNurBeiAusgewählt_, "cmdEintragAusführenMit", "Ausführen mit");
-    Hinzufügen(fraNurBeiAusgewählt_, "cmdMp3TagAnzeigen", "Datei-Infos");
-    Hinzufügen(fraNurBeiAusgewählt_, "cmdExportieren", "Export");
-    Hinzufügen(fraNurBeiAusgewählt_, "cmdDateiEntfernen", "Aus Index entfernen");
-    Hinzufügen(fraNurBeiAusgewählt_, "cmdDateienLöschen", "Löschen");
-    Hinzufügen(fraNurBeiAusgewählt_, "cmdDateienKopierenVerschieben", "Kopieren/verschieben");
-    Hinzufügen(fraNurBeiAusgewählt_, "cmdUmbenennen", "Umbenennen");
+    Hinzufügen(fraNurBeiAusgewählt_, b.cmdEintragAbspielen);
+    Hinzufügen(fraNurBeiAusgewählt_, b.cmdAnhängen);
+    Hinzufügen(fraNurBeiAusgewählt_, b.cmdEintragAusführen);
+    Hinzufügen(fraNurBeiAusgewählt_, b.cmdEintragAusführenMit);
+    Hinzufügen(fraNurBeiAusgewählt_, b.cmdMp3TagAnzeigen);
+    Hinzufügen(fraNurBeiAusgewählt_, b.cmdExportieren);
+    Hinzufügen(fraNurBeiAusgewählt_, b.cmdDateiEntfernen);
+    Hinzufügen(fraNurBeiAusgewählt_, b.cmdDateienLöschen);
+    Hinzufügen(fraNurBeiAusgewählt_, b.cmdDateienKopierenVerschieben);
+    Hinzufügen(fraNurBeiAusgewählt_, b.cmdUmbenennen);
     fraNurBeiAusgewählt_->hide();
     links2->addWidget(fraNurBeiAusgewählt_);
     layout->addWidget(fraLinks2_);
 
     QWidget* programm = Gruppe(QStringLiteral("fraProgramm"), QStringLiteral("Programm"), this);
-    Hinzufügen(programm, "cmdOptionen", "Optionen");
-    Hinzufügen(programm, "cmdHilfe", "Hilfe");
-    Hinzufügen(programm, "cmdInfo", "Infos");
-    Hinzufügen(programm, "cmdBeenden", "Ende");
+    Hinzufügen(programm, b.cmdOptionen);
+    Hinzufügen(programm, b.cmdHilfe);
+    Hinzufügen(programm, b.cmdInfo);
+    Hinzufügen(programm, b.cmdBeenden);
     layout->addWidget(programm);
     layout->addStretch(1);
 
@@ -88,13 +90,12 @@ QWidget* LinkeSpalte::Gruppe(const QString& name, const QString& überschrift, Q
     return gruppe;
 }
 
-void LinkeSpalte::Hinzufügen(QWidget* gruppe, const char* name, const char* text) {
-    auto* label = new LinkLabel(QString::fromUtf8(name), QString::fromUtf8(text), gruppe);
+void LinkeSpalte::Hinzufügen(QWidget* gruppe, QAction* befehl) {
+    auto* label = new LinkLabel(befehl->objectName(), befehl->text(), gruppe);
     label->setContentsMargins(8, 0, 0, 0);
     gruppe->layout()->addWidget(label);
-    befehle_.insert(label->objectName(), label);
-    const QString n = label->objectName();
-    connect(label, &LinkLabel::geklickt, this, [this, n] { emit befehl(n); });
+    verweise_.insert(befehl, label);
+    connect(label, &LinkLabel::geklickt, befehl, &QAction::trigger);
     connect(label, &LinkLabel::mausDarauf, this, &LinkeSpalte::Hover);
 }
 
@@ -103,7 +104,7 @@ void LinkeSpalte::FarbenAnwenden(const Einstellungen& e) {
     for (QLabel* kopf : überschriften_) FarbeSetzen(kopf, QPalette::WindowText, FarbeAusWert(e.FarbeÜberschrift));
     FarbeSetzen(lblDateiAnzahl_, QPalette::WindowText, FarbeAusWert(e.FarbeBeschreibungen));
     FarbeSetzen(lblWinampSteuerungTitel_, QPalette::WindowText, FarbeAusWert(e.FarbeBeschreibungen));
-    for (LinkLabel* l : befehle_)
+    for (LinkLabel* l : verweise_)
         l->FarbenSetzen(FarbeAusWert(e.FarbeFunktionen), FarbeAusWert(e.FarbeFunktionenBesucht),
                         e.FunktionenUnterstreichen == 1);
 }

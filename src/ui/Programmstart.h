@@ -9,8 +9,3 @@ class frmMain;
 class GuiOberfläche;
 
 void FensterStarten(Kartei& k, frmMain& fenster, GuiOberfläche& ui);
-
-// Für Bildschirmfotos: KLANGKARTEI_ZEIGEN=liste zeigt nach dem Start alle Einträge,
-// =fortschritt öffnet das Fortschrittsfenster (stehend), =sucheerweitert die erweiterte Suche mit
-// zwei Abfragezeilen.
-void VorführungStarten(Kartei& k, frmMain& fenster);

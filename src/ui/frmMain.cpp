@@ -40,7 +40,8 @@ frmMain::frmMain(Kartei& k, GuiOberfläche& ui, std::string standardIndex, QWidg
     auto* layout = new QHBoxLayout(mitte);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    links_ = new LinkeSpalte(mitte);
+    BefehleAnlegen();
+    links_ = new LinkeSpalte(befehle_, mitte);
     layout->addWidget(links_);
     auto* rechts = new QWidget(mitte);
     rechts->setObjectName(QStringLiteral("fraRechts"));

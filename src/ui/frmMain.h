@@ -6,17 +6,22 @@
 // Index wechseln).
 #include "app/EinsBasiert.h"
 #include "shell/TitelNachricht.h"
+#include "ui/FensterBefehle.h"
 
 #include <QMainWindow>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 struct Kartei;
+struct MenüZustand;
+enum class SongSuche;
 class GuiOberfläche;
 class KlickLabel;
 class LinkLabel;
 class LinkeSpalte;
+class QAction;
 class QComboBox;
 class QLabel;
 class QMenu;
@@ -51,8 +56,8 @@ public:
     void Sperren(bool gesperrt);
     // Zentrieren (erster Start), gespeicherte Lage in Twips anwenden, maximieren; dann zeigen.
     void FensterLageAnwenden(bool zentrieren, bool geometrie, bool maximieren);
-    // Einen Befehl der linken Spalte ausführen, als wäre er geklickt worden.
-    void BefehlAusführen(const QString& name);
+    // Die Befehle des Fensters (Verweise, Menüs, Tasten lösen dieselben Aktionen aus).
+    const FensterBefehle& Befehle() const { return befehle_; }
 
     SongListeAnsicht* lstSongs() const { return lstSongs_; }
     bool ShiftGedrückt() const;
@@ -68,16 +73,24 @@ private:
     void Verbinden();
     void IndexAnzeigen(bool geladen);
     void TitelSchrittAnwenden(const TitelSchritt& s);
-    void NichtVerfügbar();
     void tmrScrollUpdate_Timer();
 
     // Befehle (frmMainBefehle.cpp)
+    void BefehleAnlegen();
+    void NichtEingebaut();
     void cmdAuswählen_Click();
+    void cmdBeenden_Click();
+    void mnu_wählealle_Click();
+    void mnu_wählekeine_Click();
+    void mnu_wähleumkehren_Click();
+    void mnu_wähleabhier_Click();
+    void mnu_wählebishier_Click();
     void lstSongs_DblClick();
     void lstSongs_KontextMenü(const QPoint& global);
     void MenüZustandSetzen(bool NurTitel);
     void Auswahlhelfer(void (*helfer)(struct Ergebnisliste&));
-    void SongSucheAusführen(int art);
+    void SongSucheAusführen(SongSuche art);
+    void mnu_song_zwischenablage_Click();
     void AuswahlAktualisierenUndZeigen();
 
     // Aufnahme (frmMainAufnahme.cpp)
@@ -124,6 +137,8 @@ private:
     bool ausAufklappliste_ = false;                // die Person hat in der Aufklappliste gewählt
     SongListeAnsicht* lstSongs_ = nullptr;
 
+    FensterBefehle befehle_;
+    std::vector<std::pair<QAction*, bool MenüZustand::*>> menüRegeln_;  // Einträge, die MenüAktualisieren schaltet
     QMenu* mnu_kontext_ = nullptr;
     QMenu* mnu_wähle_ = nullptr;
     QMenu* mnu_songkontext_ = nullptr;

@@ -1,4 +1,5 @@
-// Die Befehle des Hauptfensters, die Liste mit Maus und Tastatur und die Kontextmenüs.
+// Die Befehle des Hauptfensters, die Liste mit Maus und Tastatur und die Kontextmenüs. Jeder
+// Befehl ist eine QAction (FensterBefehle); Verweis, Menü, Kontextmenü und Taste lösen sie aus.
 #include "app/Kartei.h"
 #include "search/Ergebnisliste.h"
 #include "search/Hauptfenster.h"
@@ -9,91 +10,141 @@
 #include "ui/Umrechnung.h"
 #include "ui/frmMain.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QMenu>
+#include <QPushButton>
 #include <QTimer>
 
 namespace {
-// Die Dateibefehle des Kontextmenüs rufen dieselben Befehle wie die linke Spalte.
-const struct {
-    const char* name;
-    const char* text;
-    const char* befehl;
-} KontextBefehle[] = {
-    {"mnu_kontext_abspielen", "&Abspielen", "cmdEintragAbspielen"},
-    {"mnu_kontext_playlist", "In &Playlist", "cmdAnhängen"},
-    {"mnu_kontext_ausführen", "Aus&führen", "cmdEintragAusführen"},
-    {"mnu_kontext_ausführenmit", "Ausführen &mit...", "cmdEintragAusführenMit"},
-    {"mnu_kontext_infos", "Datei-&Infos", "cmdMp3TagAnzeigen"},
-    {"mnu_kontext_export", "&Export", "cmdExportieren"},
-    {nullptr, nullptr, nullptr},
-    {"mnu_kontext_indexhinzufügen", "Zum Index &hinzufügen", "cmdIndexErstellen"},
-    {"mnu_kontext_indexentfernen", "Aus Index &entfernen", "cmdDateiEntfernen"},
-    {"mnu_kontext_löschen", "&Löschen", "cmdDateienLöschen"},
-    {"mnu_kontext_kopieren", "&Kopieren/verschieben", "cmdDateienKopierenVerschieben"},
-    {"mnu_kontext_umbenennen", "&Umbenennen", "cmdUmbenennen"},
-};
+QAction* Aktion(QObject* eltern, const char* name, const char* text) {
+    auto* a = new QAction(QString::fromUtf8(text), eltern);
+    a->setObjectName(QString::fromUtf8(name));
+    return a;
+}
 
 QAction* Eintrag(QMenu* menü, const char* name, const char* text) {
-    QAction* a = menü->addAction(QString::fromUtf8(text));
-    a->setObjectName(QString::fromUtf8(name));
+    QAction* a = Aktion(menü, name, text);
+    menü->addAction(a);
     return a;
 }
 }  // namespace
 
+// Ein Befehl, der noch nicht eingebaut ist, bekommt NichtEingebaut; wird er eingebaut, ändert
+// sich nur seine Zeile hier.
+void frmMain::BefehleAnlegen() {
+    using B = FensterBefehle;
+    const struct {
+        QAction* B::*feld;
+        const char* name;
+        const char* text;
+        void (frmMain::*aktion)();
+    } tabelle[] = {
+        {&B::cmdIndexErstellen, "cmdIndexErstellen", "Zum Index hinzufügen", &frmMain::cmdIndexErstellen_Click},
+        {&B::cmdListeAufräumen, "cmdListeAufräumen", "Index synchronisieren", &frmMain::NichtEingebaut},
+        {&B::cmdIndexVerwaltung, "cmdIndexVerwaltung", "Index-Verwaltung", &frmMain::NichtEingebaut},
+        {&B::cmdIndexStatistik, "cmdIndexStatistik", "Index-Statistiken", &frmMain::NichtEingebaut},
+        {&B::cmdAutoDJ, "cmdAutoDJ", "AutoDJ", &frmMain::NichtEingebaut},
+        {&B::cmdAuswählen, "cmdAuswählen", "Auswählen", &frmMain::cmdAuswählen_Click},
+        {&B::cmdEintragAbspielen, "cmdEintragAbspielen", "Abspielen", &frmMain::NichtEingebaut},
+        {&B::cmdAnhängen, "cmdAnhängen", "In Playlist", &frmMain::NichtEingebaut},
+        {&B::cmdEintragAusführen, "cmdEintragAusführen", "Ausführen", &frmMain::NichtEingebaut},
+        {&B::cmdEintragAusführenMit, "cmdEintragAusführenMit", "Ausführen mit", &frmMain::NichtEingebaut},
+        {&B::cmdMp3TagAnzeigen, "cmdMp3TagAnzeigen", "Datei-Infos", &frmMain::NichtEingebaut},
+        {&B::cmdExportieren, "cmdExportieren", "Export", &frmMain::NichtEingebaut},
+        {&B::cmdDateiEntfernen, "cmdDateiEntfernen", "Aus Index entfernen", &frmMain::cmdDateiEntfernen_Click},
+        {&B::cmdDateienLöschen, "cmdDateienLöschen", "Löschen", &frmMain::NichtEingebaut},
+        {&B::cmdDateienKopierenVerschieben, "cmdDateienKopierenVerschieben", "Kopieren/verschieben",
+         &frmMain::NichtEingebaut},
+        {&B::cmdUmbenennen, "cmdUmbenennen", "Umbenennen", &frmMain::NichtEingebaut},
+        {&B::cmdOptionen, "cmdOptionen", "Optionen", &frmMain::NichtEingebaut},
+        {&B::cmdHilfe, "cmdHilfe", "Hilfe", &frmMain::NichtEingebaut},
+        {&B::cmdInfo, "cmdInfo", "Infos", &frmMain::NichtEingebaut},
+        {&B::cmdBeenden, "cmdBeenden", "Ende", &frmMain::cmdBeenden_Click},
+        {&B::cmdSucheLöschen, "cmdSucheLöschen", "Löschen", &frmMain::cmdSucheLöschen_Click},
+        {&B::cmdSucheMehr, "cmdSucheMehr", "Erweiterte Suche", &frmMain::cmdSucheMehr_Click},
+        {&B::mnu_wählealle, "mnu_wählealle", "&Alle auswählen", &frmMain::mnu_wählealle_Click},
+        {&B::mnu_wählekeine, "mnu_wählekeine", "&Keine auswählen", &frmMain::mnu_wählekeine_Click},
+        {&B::mnu_wähleumkehren, "mnu_wähleumkehren", "Auswahl &umkehren", &frmMain::mnu_wähleumkehren_Click},
+        {&B::mnu_wähleabhier, "mnu_wähleabhier", "Wähle alle a&b hier", &frmMain::mnu_wähleabhier_Click},
+        {&B::mnu_wählebishier, "mnu_wählebishier", "Wähle alle bi&s hier", &frmMain::mnu_wählebishier_Click},
+    };
+    for (const auto& z : tabelle) {
+        QAction* a = Aktion(this, z.name, z.text);
+        connect(a, &QAction::triggered, this, z.aktion);
+        befehle_.*z.feld = a;
+    }
+}
+
 void frmMain::MenüsAufbauen() {
+    const auto& b = befehle_;
     mnu_wähle_ = new QMenu(QStringLiteral("Aus&wählen"), this);
     mnu_wähle_->setObjectName(QStringLiteral("mnu_wähle"));
-    connect(Eintrag(mnu_wähle_, "mnu_wählealle", "&Alle auswählen"), &QAction::triggered, this,
-            [this] { Auswahlhelfer(mnu_wählealle); });
-    connect(Eintrag(mnu_wähle_, "mnu_wählekeine", "&Keine auswählen"), &QAction::triggered, this,
-            [this] { Auswahlhelfer(mnu_wählekeine); });
-    connect(Eintrag(mnu_wähle_, "mnu_wähleumkehren", "Auswahl &umkehren"), &QAction::triggered, this,
-            [this] { Auswahlhelfer(mnu_wähleumkehren); });
+    mnu_wähle_->addActions({b.mnu_wählealle, b.mnu_wählekeine, b.mnu_wähleumkehren});
     mnu_wähle_->addSeparator();
-    connect(Eintrag(mnu_wähle_, "mnu_wähleabhier", "Wähle alle a&b hier"), &QAction::triggered, this,
-            [this] { Auswahlhelfer(mnu_wähleabhier); });
-    connect(Eintrag(mnu_wähle_, "mnu_wählebishier", "Wähle alle bi&s hier"), &QAction::triggered, this,
-            [this] { Auswahlhelfer(mnu_wählebishier); });
+    mnu_wähle_->addActions({b.mnu_wähleabhier, b.mnu_wählebishier});
+    menüRegeln_ = {{b.mnu_wähleabhier, &MenüZustand::mnu_wähleabhier},
+                   {b.mnu_wählebishier, &MenüZustand::mnu_wählebishier}};
 
     mnu_songkontext_ = new QMenu(QStringLiteral("Datei-Funktionen"), this);
     mnu_songkontext_->setObjectName(QStringLiteral("mnu_songkontext"));
     const struct {
         const char* name;
         const char* text;
-        int art;  // SongSuche, -1: eigene Aktion
-    } lieder[] = {
-        {"mnu_song_allesongsmittitel", "Alle Songs mit diesem Titel anzeigen", int(SongSuche::Titel)},
-        {"mnu_song_allesongsvoninterpret", "Alle Songs dieses Interpreten anzeigen", int(SongSuche::Interpret)},
-        {"mnu_song_allesongsvonalbum", "Alle Songs von diesem Album anzeigen", int(SongSuche::Album)},
-        {"mnu_song_allesongsimordner", "Alle Songs im enthaltenen Ordner anzeigen", int(SongSuche::Ordner)},
-        {"mnu_song_mitdiesemnamen", "Alle Songs mit diesem Namen anzeigen", -1}};
+        SongSuche art;
+        bool MenüZustand::*regel;
+    } lieder[] = {{"mnu_song_allesongsmittitel", "Alle Songs mit diesem Titel anzeigen", SongSuche::Titel,
+                   &MenüZustand::mnu_song_allesongsmittitel},
+                  {"mnu_song_allesongsvoninterpret", "Alle Songs dieses Interpreten anzeigen", SongSuche::Interpret,
+                   &MenüZustand::mnu_song_allesongsvoninterpret},
+                  {"mnu_song_allesongsvonalbum", "Alle Songs von diesem Album anzeigen", SongSuche::Album,
+                   &MenüZustand::mnu_song_allesongsvonalbum},
+                  {"mnu_song_allesongsimordner", "Alle Songs im enthaltenen Ordner anzeigen", SongSuche::Ordner,
+                   &MenüZustand::mnu_song_allesongsimordner}};
     for (const auto& l : lieder) {
         QAction* a = Eintrag(mnu_songkontext_, l.name, l.text);
-        const int art = l.art;
-        // Der Titel des Spielers kommt erst mit dem Spieler; bis dahin bleibt der Eintrag aus.
-        if (art >= 0) connect(a, &QAction::triggered, this, [this, art] { SongSucheAusführen(art); });
+        const SongSuche art = l.art;
+        connect(a, &QAction::triggered, this, [this, art] { SongSucheAusführen(art); });
+        menüRegeln_.emplace_back(a, l.regel);
     }
-    connect(Eintrag(mnu_songkontext_, "mnu_song_zwischenablage", "Dateinamen in Zwischenablage kopieren"),
-            &QAction::triggered, this, [this] {
-                AuswahlAktualisieren();
-                const std::string pfad = ZwischenablagePfad(k_, AusgewählteDateien(), AusgewähltAnzahl());
-                if (!pfad.empty()) k_.shell.InZwischenablage(pfad);
-            });
-    mnu_songkontext_->addSeparator()->setObjectName(QStringLiteral("mnu_song_wähletrennzeichen2"));
-    connect(Eintrag(mnu_songkontext_, "mnu_song_InfosInternet", "Weitere Infos im Internet suchen..."),
-            &QAction::triggered, this, &frmMain::NichtVerfügbar);
+    // Der Titel des Spielers kommt erst mit dem Spieler.
+    QAction* mitNamen = Eintrag(mnu_songkontext_, "mnu_song_mitdiesemnamen", "Alle Songs mit diesem Namen anzeigen");
+    connect(mitNamen, &QAction::triggered, this, &frmMain::NichtEingebaut);
+    QAction* ablage = Eintrag(mnu_songkontext_, "mnu_song_zwischenablage", "Dateinamen in Zwischenablage kopieren");
+    connect(ablage, &QAction::triggered, this, &frmMain::mnu_song_zwischenablage_Click);
+    QAction* trenner = mnu_songkontext_->addSeparator();
+    trenner->setObjectName(QStringLiteral("mnu_song_wähletrennzeichen2"));
+    QAction* internet = Eintrag(mnu_songkontext_, "mnu_song_InfosInternet", "Weitere Infos im Internet suchen...");
+    connect(internet, &QAction::triggered, this, &frmMain::NichtEingebaut);
+    menüRegeln_.insert(menüRegeln_.end(), {{mitNamen, &MenüZustand::mnu_song_mitdiesemnamen},
+                                           {ablage, &MenüZustand::mnu_song_zwischenablage},
+                                           {trenner, &MenüZustand::mnu_song_wähletrennzeichen2},
+                                           {internet, &MenüZustand::mnu_song_InfosInternet}});
 
+    // Die Dateibefehle des Kontextmenüs lösen die Befehle der linken Spalte aus.
     mnu_kontext_ = new QMenu(this);
     mnu_kontext_->setObjectName(QStringLiteral("mnu_kontext"));
-    for (const auto& b : KontextBefehle) {
-        if (!b.name) {
-            mnu_kontext_->addSeparator();
-            continue;
-        }
-        const QString befehl = QString::fromUtf8(b.befehl);
-        connect(Eintrag(mnu_kontext_, b.name, b.text), &QAction::triggered, this,
-                [this, befehl] { BefehlAusführen(befehl); });
+    const struct {
+        const char* name;
+        const char* text;
+        QAction* befehl;
+    } kontext[] = {
+        {"mnu_kontext_abspielen", "&Abspielen", b.cmdEintragAbspielen},
+        {"mnu_kontext_playlist", "In &Playlist", b.cmdAnhängen},
+        {"mnu_kontext_ausführen", "Aus&führen", b.cmdEintragAusführen},
+        {"mnu_kontext_ausführenmit", "Ausführen &mit...", b.cmdEintragAusführenMit},
+        {"mnu_kontext_infos", "Datei-&Infos", b.cmdMp3TagAnzeigen},
+        {"mnu_kontext_export", "&Export", b.cmdExportieren},
+        {nullptr, nullptr, nullptr},
+        {"mnu_kontext_indexhinzufügen", "Zum Index &hinzufügen", b.cmdIndexErstellen},
+        {"mnu_kontext_indexentfernen", "Aus Index &entfernen", b.cmdDateiEntfernen},
+        {"mnu_kontext_löschen", "&Löschen", b.cmdDateienLöschen},
+        {"mnu_kontext_kopieren", "&Kopieren/verschieben", b.cmdDateienKopierenVerschieben},
+        {"mnu_kontext_umbenennen", "&Umbenennen", b.cmdUmbenennen},
+    };
+    for (const auto& e : kontext) {
+        if (!e.name) mnu_kontext_->addSeparator();
+        else connect(Eintrag(mnu_kontext_, e.name, e.text), &QAction::triggered, e.befehl, &QAction::trigger);
     }
     mnu_kontext_->addSeparator();
     mnu_kontext_->addMenu(mnu_wähle_);
@@ -101,10 +152,12 @@ void frmMain::MenüsAufbauen() {
 }
 
 void frmMain::Verbinden() {
-    connect(links_, &LinkeSpalte::befehl, this, &frmMain::BefehlAusführen);
+    const auto& b = befehle_;
+    connect(cmdSucheLöschen_, &QPushButton::clicked, b.cmdSucheLöschen, &QAction::trigger);
+    connect(cmdSucheMehr_, &QPushButton::clicked, b.cmdSucheMehr, &QAction::trigger);
     connect(lblIndexdatei_, &LinkLabel::geklickt, this, &frmMain::lblIndexdatei_Click);
     connect(lblIndexdateiUntertitel1_, &KlickLabel::geklickt, this, [this] {
-        if (AusgewähltAnzahl() == 1) BefehlAusführen(QStringLiteral("cmdMp3TagAnzeigen"));
+        if (AusgewähltAnzahl() == 1) befehle_.cmdMp3TagAnzeigen->trigger();
     });
     // Der Ordner der Auswahl als Verweis: im Dateimanager öffnen.
     connect(lblIndexDateiUntertitel2_, &KlickLabel::geklickt, this, [this] {
@@ -114,8 +167,8 @@ void frmMain::Verbinden() {
     });
     connect(lstSongs_, &SongListeAnsicht::auswahlNeu, this, [this] { auswahlTimer_->start(); });
     connect(auswahlTimer_, &QTimer::timeout, this, &frmMain::AuswahlAktualisierenUndZeigen);
-    connect(lstSongs_, &SongListeAnsicht::strgA, this, [this] { Auswahlhelfer(mnu_wählealle); });
-    connect(lstSongs_, &SongListeAnsicht::entfTaste, this, &frmMain::cmdDateiEntfernen_Click);
+    connect(lstSongs_, &SongListeAnsicht::strgA, b.mnu_wählealle, &QAction::trigger);
+    connect(lstSongs_, &SongListeAnsicht::entfTaste, b.cmdDateiEntfernen, &QAction::trigger);
     connect(lstSongs_, &SongListeAnsicht::doppelklick, this, &frmMain::lstSongs_DblClick);
     connect(lstSongs_, &SongListeAnsicht::rechtsklick, this, &frmMain::lstSongs_KontextMenü);
     connect(lstSongs_, &SongListeAnsicht::spalteGeklickt, this, &frmMain::lstSongs_ColumnClick);
@@ -127,45 +180,25 @@ void frmMain::Verbinden() {
     VerbindenSuche();
 }
 
-void frmMain::BefehlAusführen(const QString& name) {
-    if (name == QStringLiteral("cmdIndexErstellen")) cmdIndexErstellen_Click();
-    else if (name == QStringLiteral("cmdAuswählen")) cmdAuswählen_Click();
-    else if (name == QStringLiteral("cmdDateiEntfernen")) cmdDateiEntfernen_Click();
-    else if (name == QStringLiteral("cmdBeenden")) close();
-    else if (name == QStringLiteral("cmdSucheLöschen")) cmdSucheLöschen_Click();
-    else if (name == QStringLiteral("cmdSucheMehr")) cmdSucheMehr_Click();
-    else NichtVerfügbar();
+void frmMain::NichtEingebaut() {
+    k_.ui.MeldungZeigen("Diese Funktion ist noch nicht eingebaut.", Meldung::Information);
 }
 
-void frmMain::NichtVerfügbar() {
-    k_.ui.MeldungZeigen("Diese Funktion ist noch nicht verfügbar.", Meldung::Information);
-}
+void frmMain::cmdBeenden_Click() { close(); }
 
 void frmMain::cmdAuswählen_Click() {
     MenüZustandSetzen(false);
-    LinkLabel* knopf = links_->Befehl(QStringLiteral("cmdAuswählen"));
+    LinkLabel* knopf = links_->Verweis(befehle_.cmdAuswählen);
     mnu_wähle_->popup(knopf->mapToGlobal(QPoint(0, knopf->height())));
 }
 
 void frmMain::MenüZustandSetzen(bool NurTitel) {
     AuswahlAktualisieren();
     const MenüZustand m = MenüAktualisieren(k_, NurTitel, AusgewählteDateien(), AusgewähltAnzahl());
-    const std::pair<const char*, bool> einträge[] = {
-        {"mnu_song_mitdiesemnamen", m.mnu_song_mitdiesemnamen},
-        {"mnu_song_allesongsimordner", m.mnu_song_allesongsimordner},
-        {"mnu_song_allesongsmittitel", m.mnu_song_allesongsmittitel},
-        {"mnu_song_allesongsvonalbum", m.mnu_song_allesongsvonalbum},
-        {"mnu_song_allesongsvoninterpret", m.mnu_song_allesongsvoninterpret},
-        {"mnu_song_zwischenablage", m.mnu_song_zwischenablage},
-        {"mnu_song_InfosInternet", m.mnu_song_InfosInternet},
-        {"mnu_song_wähletrennzeichen2", m.mnu_song_wähletrennzeichen2},
-        {"mnu_wähleabhier", m.mnu_wähleabhier},
-        {"mnu_wählebishier", m.mnu_wählebishier}};
-    for (const auto& [name, an] : einträge)
-        if (auto* a = findChild<QAction*>(QString::fromUtf8(name))) {
-            a->setEnabled(an);
-            if (a->isSeparator()) a->setVisible(an);
-        }
+    for (const auto& [eintrag, regel] : menüRegeln_) {
+        eintrag->setEnabled(m.*regel);
+        if (eintrag->isSeparator()) eintrag->setVisible(m.*regel);
+    }
 }
 
 void frmMain::lstSongs_KontextMenü(const QPoint& global) {
@@ -181,15 +214,27 @@ void frmMain::Auswahlhelfer(void (*helfer)(Ergebnisliste&)) {
     AuswahlAktualisierenUndZeigen();
 }
 
-void frmMain::SongSucheAusführen(int art) {
+void frmMain::mnu_wählealle_Click() { Auswahlhelfer(mnu_wählealle); }
+void frmMain::mnu_wählekeine_Click() { Auswahlhelfer(mnu_wählekeine); }
+void frmMain::mnu_wähleumkehren_Click() { Auswahlhelfer(mnu_wähleumkehren); }
+void frmMain::mnu_wähleabhier_Click() { Auswahlhelfer(mnu_wähleabhier); }
+void frmMain::mnu_wählebishier_Click() { Auswahlhelfer(mnu_wählebishier); }
+
+void frmMain::SongSucheAusführen(SongSuche art) {
     AuswahlAktualisieren();
     SongSucheZiel ziel;
-    if (!SongSucheBestimmen(k_, static_cast<SongSuche>(art), AusgewählteDateien(), AusgewähltAnzahl(), ziel)) return;
+    if (!SongSucheBestimmen(k_, art, AusgewählteDateien(), AusgewähltAnzahl(), ziel)) return;
     SucheStarten(ziel.feld, ziel.text);
+}
+
+void frmMain::mnu_song_zwischenablage_Click() {
+    AuswahlAktualisieren();
+    const std::string pfad = ZwischenablagePfad(k_, AusgewählteDateien(), AusgewähltAnzahl());
+    if (!pfad.empty()) k_.shell.InZwischenablage(pfad);
 }
 
 void frmMain::lstSongs_DblClick() {
     AuswahlAktualisierenUndZeigen();
     if (AusgewähltAnzahl() < 1) return;
-    NichtVerfügbar();  // Abspielen nach BeiDoppelklick kommt mit dem Spieler
+    NichtEingebaut();  // Abspielen nach BeiDoppelklick kommt mit dem Spieler
 }

@@ -43,8 +43,6 @@ void frmMain::VerbindenSuche() {
         txtSongname_Change(txtSongname_->itemText(i));
     });
     connect(cboSuche_, &QComboBox::activated, this, &frmMain::cboSuche_Click);
-    connect(cmdSucheLöschen_, &QPushButton::clicked, this, &frmMain::cmdSucheLöschen_Click);
-    connect(cmdSucheMehr_, &QPushButton::clicked, this, &frmMain::cmdSucheMehr_Click);
     connect(tmrListe_, &QTimer::timeout, this, &frmMain::tmrListe_Timer);
 }
 

@@ -43,6 +43,5 @@ int main(int argc, char** argv) {
     frmMain fenster(k, ui, StandardIndexPfad());
     hauptfenster = &fenster;
     FensterStarten(k, fenster, ui);
-    VorführungStarten(k, fenster);
     return app.exec();
 }

@@ -2,7 +2,11 @@
 #include "app/Pfade.h"
 #include "FensterUmgebung.h"
 
+#include "ui/LinkLabel.h"
+
+#include <QAction>
 #include <QComboBox>
+#include <QSignalSpy>
 #include <QLineEdit>
 
 class FensterTest : public QObject {
@@ -15,6 +19,7 @@ private slots:
     void SchliessenOhneFrageBeiAutomatischemSpeichern();
     void AndererIndexUeberDenDateinamen();
     void FarbenUndBesuchteBefehle();
+    void JederBefehlEineAktion();
 
 private:
     std::unique_ptr<QTemporaryDir> xdg_;
@@ -153,9 +158,46 @@ void FensterTest::FarbenUndBesuchteBefehle() {
     auto* optionen = w.Kind<QLabel>("cmdOptionen");
     QCOMPARE(optionen->palette().color(QPalette::WindowText), QColor(0, 0, 0xC0));  // 0xC00000
     QTest::mouseClick(optionen, Qt::LeftButton);
-    QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht verfügbar."));
+    QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht eingebaut."));
     QCOMPARE(optionen->palette().color(QPalette::WindowText), QColor(0x80, 0, 0));  // besucht: 0x000080
     QCOMPARE(w.Kind<QWidget>("fraLinks1")->palette().color(QPalette::Window), QColor(0xEE, 0xEE, 0xEE));
+}
+
+// Verweis, Knopf, Kontextmenü und Taste lösen dieselbe Aktion aus; jede trägt den Namen ihres
+// Steuerelements.
+void FensterTest::JederBefehlEineAktion() {
+    TestOrdner ordner;
+    Fenster w;
+    w.k.E.TippsAktueller = 0;
+    w.Starten({LiederIndex(ordner)});
+    const QList<LinkLabel*> verweise = w.Kind<QWidget>("fraLinks1")->findChildren<LinkLabel*>();
+    QCOMPARE(verweise.size(), 20);
+    for (LinkLabel* verweis : verweise) {
+        const auto aktionen = w.f->findChildren<QAction*>(verweis->objectName());
+        QVERIFY2(aktionen.size() == 1, qPrintable(verweis->objectName()));
+        QCOMPARE(aktionen.front()->text(), verweis->text());
+    }
+    auto* statistik = w.Kind<QAction>("cmdIndexStatistik");
+    QSignalSpy ausgelöst(statistik, &QAction::triggered);
+    QTest::mouseClick(w.Kind<QLabel>("cmdIndexStatistik"), Qt::LeftButton);
+    QCOMPARE(ausgelöst.size(), 1);
+    QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht eingebaut."));
+    QCOMPARE(w.meldungen.back().schalter, Meldung::Information);
+
+    QSignalSpy löschen(w.Kind<QAction>("cmdSucheLöschen"), &QAction::triggered);
+    QVERIFY(Drücken(*w.f, "cmdSucheLöschen"));
+    QCOMPARE(löschen.size(), 1);
+    QCOMPARE(w.Zeilen(), 6);
+    // Entf in der Liste und der Eintrag des Kontextmenüs: dieselbe Aktion wie der Verweis.
+    QSignalSpy entfernen(w.Kind<QAction>("cmdDateiEntfernen"), &QAction::triggered);
+    auto* liste = w.f->lstSongs();
+    QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, ZeilenMitte(liste, 0));
+    liste->setFocus();
+    w.antworten = {Meldung::Nein, Meldung::Nein};
+    QTest::keyClick(liste, Qt::Key_Delete);
+    w.Kind<QAction>("mnu_kontext_indexentfernen")->trigger();
+    QCOMPARE(entfernen.size(), 2);
+    QCOMPARE(w.k.DateiAnzahl, 6);
 }
 
 #include "FensterTest.moc"

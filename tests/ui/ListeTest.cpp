@@ -108,7 +108,7 @@ void ListeTest::TippenSortierenWaehlenEntfernen() {
     QTRY_COMPARE(w.Text("lblIndexdateiUntertitel1"), QStringLiteral("Es wurden 3 Dateien gewählt."));
     QVERIFY(w.f->ShiftGedrückt());
     QTest::keyClick(liste, Qt::Key_Return);
-    QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht verfügbar."));
+    QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht eingebaut."));
 }
 
 void ListeTest::FeldsucheMitVorschlaegenUndErgaenzung() {
@@ -201,9 +201,9 @@ void ListeTest::KontextmenueUndAuswahlhelfer() {
     QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, ZeilenMitte(liste, 1));
     aktion("mnu_song_zwischenablage")->trigger();
     QCOMPARE(w.shell.zwischenablage, std::vector<std::string>{ordner / "03 Tag ein.mp3"});
-    // Nicht gebaute Befehle sagen es.
-    w.f->BefehlAusführen(QStringLiteral("cmdUmbenennen"));
-    QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht verfügbar."));
+    // Nicht gebaute Befehle sagen es, auch aus dem Kontextmenü.
+    aktion("mnu_kontext_umbenennen")->trigger();
+    QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht eingebaut."));
     QCOMPARE(w.meldungen.back().schalter, Meldung::Information);
 }
 
@@ -229,7 +229,7 @@ void ListeTest::OrdnerHinzufuegenAblegenZiehen() {
         ordner = musik.Pfad();
         return true;
     };
-    w.f->BefehlAusführen(QStringLiteral("cmdIndexErstellen"));
+    w.f->Befehle().cmdIndexErstellen->trigger();
     QCOMPARE(w.k.DateiAnzahl, 3);
     QCOMPARE(w.Zeilen(), 3);
     QVERIFY(w.k.DateiGeändert);
