@@ -2,7 +2,7 @@
 # Installiert die Debian-Pakete, die Bau und Tests brauchen; nur, was noch fehlt.
 set -euo pipefail
 PAKETE=(build-essential cmake ninja-build ccache pkg-config git
-        qt6-base-dev libgl-dev libutf8proc-dev libgtest-dev libgmock-dev libbenchmark-dev
+        qt6-base-dev qt6-translations-l10n libgl-dev libutf8proc-dev libgtest-dev libgmock-dev libbenchmark-dev
         xvfb xauth dbus clang-format)
 fehlend=()
 for p in "${PAKETE[@]}"; do

@@ -17,8 +17,8 @@
 #include <string>
 
 // Programmtitel für Meldungen, Einstellungen und Fenster.
-inline constexpr const char* ProgrammTitel = "Klangkartei";
-// "Klangkartei 1.0"
+inline constexpr const char* ProgrammTitel = "KlangKartei";
+// "KlangKartei 1.0"
 std::string ProgrammTitelMitVersion();
 
 struct Dienste {

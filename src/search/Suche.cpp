@@ -110,6 +110,23 @@ void cmdSucheLöschen_Click(Kartei& k) {
     txtSongname_Change(k);  // leerer Text: sucht sofort
 }
 
+void SucheZurücksetzen(Kartei& k) {
+    auto& s = k.Suche;
+    s.SucheGesperrt = true;
+    FeldWählen(s.cboSuche, 0);
+    s.txtSongname.Text.clear();
+    s.txtSongname.SelStart = s.txtSongname.SelLength = 0;
+    s.cboSuche.Enabled = s.txtSongname.Enabled = true;
+    cboSuche_Click(k);  // die Vorschläge; die Sperre hält die Suche zurück
+    s.SucheGesperrt = false;
+    s.SuchAnzahl = 0;
+    s.tmrListeAktiv = false;
+    s.AusgewähltAnzahl = 0;
+    s.AusgewählteDateien.ReDim(1);
+    s.AusgewählteZeilen.ReDim(1);
+    k.Liste.DateiAnzahlText = DateiAnzahlText(static_cast<int32_t>(k.Liste.lstSongs.zeilen.size()), k.DateiAnzahl);
+}
+
 bool SucheErweitertÜbernehmen(Kartei& k) {
     auto& s = k.Suche;
     if (s.SuchAnzahl == 0) {

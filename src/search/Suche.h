@@ -25,6 +25,9 @@ void tmrListe_Timer(Kartei& k);
 void cboSuche_Click(Kartei& k);
 // cmdSucheLöschen: zurück zur Standardsuche mit leerem Text und einer Abfragezeile.
 void cmdSucheLöschen_Click(Kartei& k);
+// Nach dem Laden eines Index: Feld "erstes", leerer Text, eine Abfragezeile, Vorschläge aus dem
+// neuen Index, keine Auswahl, die Zahlen des neuen Index; gesucht wird noch nicht.
+void SucheZurücksetzen(Kartei& k);
 // cmdOk der erweiterten Suche: eine Zeile geht zurück in cboSuche/txtSongname, mehrere sperren
 // beide. false mit Hinweis, wenn es keine Zeile gibt (der Dialog bleibt dann offen).
 bool SucheErweitertÜbernehmen(Kartei& k);

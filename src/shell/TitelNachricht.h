@@ -31,5 +31,5 @@ TitelSchritt TitelTimer2(TitelAnimation& a);
 // diesem Intervall, kehrt der normale Titel zurück.
 TitelSchritt TitelTimer1(TitelAnimation& a, int32_t aktuellesIntervallMs);
 
-// "Klangkartei 1.0 - Klangkt.kkt"; ohne Index nur der Programmtitel mit Version.
+// "KlangKartei 1.0 - Klangkt.kkt"; ohne Index nur der Programmtitel mit Version.
 std::string NormalerTitel(const std::string& indexDatei);

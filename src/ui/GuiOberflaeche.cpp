@@ -20,23 +20,29 @@ bool ErsteDateiAusSkript(const std::function<bool(std::vector<std::string>&)>& s
     return true;
 }
 
-// "Name|*.a;*.b|Name2|*.c" → "Name (*.a *.b);;Name2 (*.c)"
-QString QtFilter(const std::string& filter) {
-    const QStringList teile = Q(filter).split(QLatin1Char('|'));
-    QStringList qtFilter;
-    for (qsizetype i = 0; i + 1 < teile.size(); i += 2) {
-        QString muster = teile[i + 1];
-        muster.replace(QLatin1Char(';'), QLatin1Char(' '));
-        // Qt liest die Muster aus der letzten Klammer; die im Namen hat Kommas statt Leerzeichen.
-        qtFilter << teile[i] + QStringLiteral(" (") + muster + QLatin1Char(')');
-    }
-    return qtFilter.join(QStringLiteral(";;"));
-}
-
 void KnopfBeschriften(QMessageBox& box, QMessageBox::StandardButton knopf, const char* text) {
     if (auto* b = box.button(knopf)) b->setText(QString::fromUtf8(text));
 }
 }  // namespace
+
+// Qt liest die Muster aus der letzten Klammer und zeigt den Namen, wie er ist. Trägt der Name
+// seine Muster schon in Klammern ("Indexdateien (*.kkt)"), ersetzen die echten Muster diese
+// Klammer, statt ein zweites Mal dahinterzustehen.
+QString QtDateiFilter(const std::string& filter) {
+    const QStringList teile = Q(filter).split(QLatin1Char('|'));
+    QStringList qtFilter;
+    for (qsizetype i = 0; i + 1 < teile.size(); i += 2) {
+        QString name = teile[i].trimmed();
+        if (name.endsWith(QLatin1Char(')'))) {
+            const qsizetype auf = name.lastIndexOf(QLatin1Char('('));
+            if (auf >= 0) name = name.left(auf).trimmed();
+        }
+        QString muster = teile[i + 1];
+        muster.replace(QLatin1Char(';'), QLatin1Char(' '));
+        qtFilter << name + QStringLiteral(" (") + muster + QLatin1Char(')');
+    }
+    return qtFilter.join(QStringLiteral(";;"));
+}
 
 GuiOberfläche::GuiOberfläche(std::function<QWidget*()> besitzer) : besitzer_(std::move(besitzer)) {
     ereignisUhr_.start();
@@ -47,7 +53,7 @@ GuiOberfläche::~GuiOberfläche() { delete fortschritt_.data(); }
 int GuiOberfläche::MeldungZeigen(const std::string& text, int schalter) {
     using namespace Meldung;
     if (meldungsSkript) return meldungsSkript(text, schalter);
-    QMessageBox box(Besitzer());
+    QMessageBox box(SichtbarerBesitzer());
     box.setWindowTitle(QString::fromUtf8(ProgrammTitel));
     box.setText(Q(text));
     QMessageBox::Icon symbol = QMessageBox::Warning;
@@ -103,9 +109,13 @@ void GuiOberfläche::EreignisseVerarbeiten() {
 }
 
 void GuiOberfläche::FortschrittDarstellen(const FortschrittAnsicht& ansicht) {
+    // Beim Start ist das Hauptfenster noch nicht zu sehen: das Fenster steht dann allein in der
+    // Mitte des Bildschirms und bekommt das Hauptfenster als Besitzer, sobald es wieder aufgeht.
+    if (fortschritt_ && !fortschritt_->isVisible() && fortschritt_->parentWidget() != SichtbarerBesitzer())
+        delete fortschritt_.data();
     if (!fortschritt_) {
         if (!ansicht.offen) return;
-        fortschritt_ = new frmFortschritt(Besitzer());
+        fortschritt_ = new frmFortschritt(SichtbarerBesitzer());
         fortschritt_->abbrechen = [this] {
             if (fortschrittAbbrechen) fortschrittAbbrechen();
         };
@@ -123,21 +133,21 @@ void GuiOberfläche::FortschrittDarstellen(const FortschrittAnsicht& ansicht) {
 
 NichtVerfügbarAntwort GuiOberfläche::DateiNichtVerfügbar(const std::string&, const std::string& text,
                                                          const std::function<bool()>& dateiDa) {
-    frmDateiNichtVerfügbar dialog(Besitzer(), text, dateiDa);
+    frmDateiNichtVerfügbar dialog(SichtbarerBesitzer(), text, dateiDa);
     DialogAusführen(dialog);
     return dialog.DateiNichtVerfügbarAuswahl;
 }
 
 bool GuiOberfläche::NamenEingeben(const std::string& titel, const std::string&, std::string& text, int32_t, int32_t) {
     bool ok = false;
-    QString neu = QInputDialog::getText(Besitzer(), Q(titel), QString(), QLineEdit::Normal, Q(text), &ok);
+    QString neu = QInputDialog::getText(SichtbarerBesitzer(), Q(titel), QString(), QLineEdit::Normal, Q(text), &ok);
     if (ok) text = S(neu);
     return ok;
 }
 
 bool GuiOberfläche::OrdnerWählen(const std::string& titel, std::string& ordner) {
     if (ordnerSkript) return ordnerSkript(ordner);
-    QString neu = QFileDialog::getExistingDirectory(Besitzer(), Q(titel), Q(ordner));
+    QString neu = QFileDialog::getExistingDirectory(SichtbarerBesitzer(), Q(titel), Q(ordner));
     if (neu.isEmpty()) return false;
     ordner = S(neu);
     return true;
@@ -147,7 +157,8 @@ bool GuiOberfläche::DateienWählen(const std::string& titel, const std::string&
                                   std::vector<std::string>& dateien) {
     dateien.clear();
     if (dateienSkript) return dateienSkript(dateien) && !dateien.empty();
-    const QStringList gewählt = QFileDialog::getOpenFileNames(Besitzer(), Q(titel), QString(), QtFilter(filter));
+    const QStringList gewählt =
+        QFileDialog::getOpenFileNames(SichtbarerBesitzer(), Q(titel), QString(), QtDateiFilter(filter));
     for (const auto& d : gewählt) dateien.push_back(S(d));
     return !dateien.empty();
 }
@@ -155,7 +166,7 @@ bool GuiOberfläche::DateienWählen(const std::string& titel, const std::string&
 bool GuiOberfläche::DateiWählen(const std::string& titel, const std::string& filter, const std::string& start,
                                 std::string& datei) {
     if (dateienSkript) return ErsteDateiAusSkript(dateienSkript, datei);
-    const QString neu = QFileDialog::getOpenFileName(Besitzer(), Q(titel), Q(start), QtFilter(filter));
+    const QString neu = QFileDialog::getOpenFileName(SichtbarerBesitzer(), Q(titel), Q(start), QtDateiFilter(filter));
     if (neu.isEmpty()) return false;
     datei = S(neu);
     return true;
@@ -164,10 +175,15 @@ bool GuiOberfläche::DateiWählen(const std::string& titel, const std::string& f
 bool GuiOberfläche::DateiZumSpeichernWählen(const std::string& titel, const std::string& filter,
                                             const std::string& start, std::string& datei) {
     if (dateienSkript) return ErsteDateiAusSkript(dateienSkript, datei);
-    const QString neu = QFileDialog::getSaveFileName(Besitzer(), Q(titel), Q(start), QtFilter(filter));
+    const QString neu = QFileDialog::getSaveFileName(SichtbarerBesitzer(), Q(titel), Q(start), QtDateiFilter(filter));
     if (neu.isEmpty()) return false;
     datei = S(neu);
     return true;
+}
+
+QWidget* GuiOberfläche::SichtbarerBesitzer() const {
+    QWidget* b = Besitzer();
+    return b && b->isVisible() ? b : nullptr;
 }
 
 int GuiOberfläche::DialogAusführen(QDialog& dialog) {

@@ -9,8 +9,12 @@
 #include <functional>
 
 class QDialog;
+class QString;
 class QWidget;
 class frmFortschritt;
+
+// "Name|*.a;*.b|Name2|*.c" (Filter des Programms) → "Name (*.a *.b);;Name2 (*.c)" für QFileDialog.
+QString QtDateiFilter(const std::string& filter);
 
 class GuiOberfläche final : public Oberfläche {
 public:
@@ -40,6 +44,9 @@ public:
     // Eine vorhandene Datei wählen; false = Abbrechen.
     bool DateiWählen(const std::string& titel, const std::string& filter, const std::string& start, std::string& datei);
     QWidget* Besitzer() const { return besitzer_ ? besitzer_() : nullptr; }
+    // Der Besitzer, wenn er zu sehen ist: ein Fenster ohne Besitzer steht in der Mitte des
+    // Bildschirms statt an einem Hauptfenster, das noch gar nicht gezeigt wird.
+    QWidget* SichtbarerBesitzer() const;
 
     // Das Hauptfenster hängt sich hier ein.
     std::function<void(const std::string&, int32_t)> titelNachricht;

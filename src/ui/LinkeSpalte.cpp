@@ -52,6 +52,11 @@ LinkeSpalte::LinkeSpalte(const FensterBefehle& b, QWidget* eltern) : QFrame(elte
     Hinzufügen(fraNurBeiAusgewählt_, b.cmdDateienLöschen);
     Hinzufügen(fraNurBeiAusgewählt_, b.cmdDateienKopierenVerschieben);
     Hinzufügen(fraNurBeiAusgewählt_, b.cmdUmbenennen);
+    // Versteckt behält die Gruppe ihren Platz: "Programm" springt nicht, wenn eine Auswahl
+    // erscheint, und die kleinste Größe des Fensters bleibt dieselbe.
+    QSizePolicy platz = fraNurBeiAusgewählt_->sizePolicy();
+    platz.setRetainSizeWhenHidden(true);
+    fraNurBeiAusgewählt_->setSizePolicy(platz);
     fraNurBeiAusgewählt_->hide();
     links2->addWidget(fraNurBeiAusgewählt_);
     layout->addWidget(fraLinks2_);

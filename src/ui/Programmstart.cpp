@@ -17,7 +17,6 @@ void FensterStarten(Kartei& k, frmMain& fenster, GuiOberfläche& ui) {
     fenster.FensterLageAnwenden(start.fensterZentrieren, start.geometrieAnwenden, start.maximieren);
     fenster.AuswahlBeschreibungAnzeigen();
     fenster.TitelNachrichtZeigen(start.begrüßung, 500);
-    fenster.SucheVorbereiten();
     if (start.willkommenZeigen) {
         frmWillkommen willkommen(&fenster, WillkommenText());
         willkommen.hilfe = [&fenster] { fenster.Befehle().cmdHilfe->trigger(); };

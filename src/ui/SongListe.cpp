@@ -5,10 +5,12 @@
 #include "search/Ergebnisliste.h"
 #include "ui/Umrechnung.h"
 
+#include <QApplication>
 #include <QDrag>
 #include <QDragEnterEvent>
 #include <QHeaderView>
 #include <QMimeData>
+#include <QTimer>
 #include <QUrl>
 
 // ---------------------------------------------------------------- Modell
@@ -108,15 +110,29 @@ SongListeAnsicht::SongListeAnsicht(Kartei& k, QWidget* eltern) : QTableView(elte
     horizontalHeader()->setSectionsMovable(true);
     horizontalHeader()->setSectionsClickable(true);
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setStretchLastSection(false);
+    // Die letzte Spalte füllt die Liste; ihre gespeicherte Breite bleibt dabei unberührt.
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setSortIndicatorShown(true);
+    horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 
+    // Ein Klick auf den Spaltenkopf sortiert, holt aber den Fokus nicht in die Liste: wer im
+    // Suchfeld tippt, tippt danach dort weiter. Qt gibt den Fokus schon vor dem Klick weiter;
+    // der Filter des Kopfes gibt ihn im selben Ereignis zurück.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* alt, QWidget* neu) {
+        if (neu != this) return;
+        fokusVorKlick_ = alt;
+        QTimer::singleShot(0, this, [this] { fokusVorKlick_ = nullptr; });
+    });
+    horizontalHeader()->viewport()->installEventFilter(this);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &SongListeAnsicht::AuswahlZurückschreiben);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, [this](int spalte) {
-        if (!abgleichen_) emit spalteGeklickt(spalte);
+        if (abgleichen_) return;
+        emit spalteGeklickt(spalte);
+        SortierPfeilSetzen();  // der Kopf hat den Pfeil beim Klick selbst umgedreht
     });
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int spalte, int, int neu) {
-        if (abgleichen_) return;
+        if (abgleichen_ || spalte == horizontalHeader()->count() - 1) return;
         auto& s = k_.Liste.lstSongs.spalten;
         if (spalte >= 0 && static_cast<size_t>(spalte) < s.size())
             s[static_cast<size_t>(spalte)].breite = PixelZuTwips(neu);
@@ -125,6 +141,14 @@ SongListeAnsicht::SongListeAnsicht(Kartei& k, QWidget* eltern) : QTableView(elte
     connect(horizontalHeader(), &QHeaderView::sectionMoved, this, [this] {
         if (!abgleichen_) SpalteVerschoben();
     });
+}
+
+bool SongListeAnsicht::eventFilter(QObject* objekt, QEvent* ereignis) {
+    if (objekt == horizontalHeader()->viewport() && ereignis->type() == QEvent::MouseButtonPress && fokusVorKlick_) {
+        fokusVorKlick_->setFocus(Qt::MouseFocusReason);
+        fokusVorKlick_ = nullptr;
+    }
+    return QTableView::eventFilter(objekt, ereignis);
 }
 
 void SongListeAnsicht::FarbenSetzen(const QColor& text, const QColor& hintergrund) {
@@ -144,12 +168,27 @@ void SongListeAnsicht::Abgleichen() {
         AuswahlÜbernehmen();
     }
     horizontalHeader()->setVisible(liste.kopfleiste);
+    SortierPfeilSetzen();
     setShowGrid(liste.gitter);
     if (liste.sichtbareZeile >= 0 && liste.sichtbareZeile < modell_->rowCount()) {
         scrollTo(modell_->index(liste.sichtbareZeile, 0));
         liste.sichtbareZeile = -1;  // erledigt
     }
     abgleichen_ = false;
+}
+
+// Der Pfeil steht an der Spalte, nach der zuletzt sortiert wurde: aufsteigend nach dem ersten
+// Klick, absteigend nach dem zweiten (der Kern kippt SortierUmkehren nach jedem Sortieren).
+void SongListeAnsicht::SortierPfeilSetzen() {
+    const auto& s = k_.Suche;
+    const auto& spalten = k_.Liste.lstSongs.spalten;
+    int spalte = -1;
+    for (size_t i = 0; i < spalten.size() && spalte < 0 && !s.SortierSpalteZuletzt.empty(); ++i) {
+        const std::string schlüssel = spalten[i].tag == "b" ? "Benutzerdefiniert" : spalten[i].kopf;
+        if (schlüssel == s.SortierSpalteZuletzt) spalte = static_cast<int>(i);
+    }
+    const QSignalBlocker sperre(horizontalHeader());
+    horizontalHeader()->setSortIndicator(spalte, s.SortierUmkehren == 1 ? Qt::AscendingOrder : Qt::DescendingOrder);
 }
 
 void SongListeAnsicht::SpaltenBreitenÜbernehmen() {

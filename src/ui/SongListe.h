@@ -4,6 +4,7 @@
 // Widget. Die Auswahl der Person wird in die Ergebnisliste zurückgeschrieben; sortiert wird nur
 // über den Kern (Klick auf einen Spaltenkopf).
 #include <QAbstractTableModel>
+#include <QPointer>
 #include <QTableView>
 
 #include <cstdint>
@@ -64,6 +65,7 @@ signals:
     void spaltenNeu();  // Breite oder Reihenfolge von Hand geändert
 
 protected:
+    bool eventFilter(QObject* objekt, QEvent* ereignis) override;
     void keyPressEvent(QKeyEvent* ereignis) override;
     void keyReleaseEvent(QKeyEvent* ereignis) override;
     void mouseReleaseEvent(QMouseEvent* ereignis) override;
@@ -77,12 +79,14 @@ private:
     void AuswahlZurückschreiben(const QItemSelection& gewählt, const QItemSelection& abgewählt);
     void AuswahlÜbernehmen();
     void SpaltenBreitenÜbernehmen();
+    void SortierPfeilSetzen();
     void SpalteVerschoben();
     bool IstEigeneAuswahl(const QList<QUrl>& urls) const;
     QStringList GewähltePfade() const;
 
     Kartei& k_;
     ErgebnislisteModell* modell_;
+    QPointer<QWidget> fokusVorKlick_;  // hatte den Fokus, bis der Klick ihn der Liste gab
     bool abgleichen_ = false;          // Signale der Ansicht gehen dann nicht in die Liste zurück
     uint64_t version_ = ~uint64_t{0};  // zuletzt übernommener Stand der Ergebnisliste
 };

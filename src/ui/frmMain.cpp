@@ -100,6 +100,10 @@ void frmMain::AufbauOben(QWidget* rechts) {
     lblIndexdateiUntertitel1_->setTextFormat(Qt::PlainText);
     lblIndexDateiUntertitel2_ = new KlickLabel(QStringLiteral("lblIndexDateiUntertitel2"), rechts);
     lblIndexDateiUntertitel2_->setTextFormat(Qt::PlainText);
+    // Lange Namen und Pfade werden abgeschnitten, statt das Fenster breiter zu zwingen.
+    for (QLabel* l : {static_cast<QLabel*>(lblIndexdatei_), static_cast<QLabel*>(lblIndexdateiUntertitel1_),
+                      static_cast<QLabel*>(lblIndexDateiUntertitel2_)})
+        l->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* layout = static_cast<QVBoxLayout*>(rechts->layout());
     layout->addWidget(lblProgramm_);
     layout->addWidget(lblIndexdatei_);
@@ -122,6 +126,9 @@ void frmMain::AufbauSuche(QWidget* rechts) {
     vorschlagModell_ = new QStringListModel(this);
     txtSongname_->setModel(vorschlagModell_);
     txtSongname_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    // Auch im kleinsten Fenster passt der längste Text, den das Feld selbst zeigt.
+    txtSongname_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    txtSongname_->setMinimumContentsLength(static_cast<int>(QStringLiteral("(Mehrere Such-Abfragen)").size()) + 2);
     txtSongname_->lineEdit()->setPlaceholderText(QStringLiteral("Suchbegriff eingeben"));
     txtSongname_->setMaxVisibleItems(20);
     cmdSucheLöschen_ = new QPushButton(QStringLiteral("Löschen"), rechts);
@@ -161,6 +168,7 @@ void frmMain::IndexAnzeigen(bool geladen) {
     lblIndexdatei_->setText(geladen ? Q(DateinameAusPfad(k_.Dateiname)) : QStringLiteral("(keine Datei geladen)"));
     lblIndexdatei_->setToolTip(Q(k_.Dateiname));
     setWindowTitle(Q(NormalerTitel(geladen ? k_.Dateiname : std::string())));
+    SucheVorbereiten();  // Feld, Text, Vorschläge und Zahlen gehören jetzt zum neuen Index
     ListeAnzeigen();
     AuswahlAktualisierenUndZeigen();
 }
@@ -213,9 +221,18 @@ void frmMain::tmrScrollUpdate_Timer() {
     tmrScrollUpdate_->start();
 }
 
+// Gesperrt verliert das Fenster den Fokus; danach bekommt ihn das Element zurück, das ihn hatte,
+// damit weiter Getipptes nicht verloren geht.
 void frmMain::Sperren(bool gesperrt) {
+    if (gesperrt && !gesperrt_) fokusVorher_ = focusWidget();
     gesperrt_ = gesperrt;
     centralWidget()->setEnabled(!gesperrt);
+    if (gesperrt || !fokusVorher_) return;
+    if (fokusVorher_->isEnabled() && fokusVorher_->isVisible()) {
+        activateWindow();
+        fokusVorher_->setFocus(Qt::OtherFocusReason);
+    }
+    fokusVorher_ = nullptr;
 }
 
 bool frmMain::ShiftGedrückt() const { return lstSongs_->ShiftGedrückt; }

@@ -9,6 +9,7 @@
 #include "ui/FensterBefehle.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 #include <string>
 #include <utility>
@@ -46,8 +47,6 @@ public:
     void ListeAnzeigen();
     void AuswahlBeschreibungAnzeigen();
     void TitelNachrichtZeigen(const std::string& text, int32_t verzögerungMs);
-    // cboSuche auf den ersten Eintrag, ohne dass eine Suche beginnt (Programmstart).
-    void SucheVorbereiten();
     // Fokus ins Suchfeld, wenn es eingeschaltet ist.
     void SuchfeldFokussieren();
     // tmrScrollUpdate einschalten (Programmstart).
@@ -114,6 +113,8 @@ private:
     void cmdSucheMehr_Click();
     void lstSongs_ColumnClick(int spalte);
     void SucheStarten(int feld, const std::string& text);
+    // Suche wie nach dem Start: erstes Feld, leerer Text, Vorschläge des Index; sucht nicht.
+    void SucheVorbereiten();
 
     // Schließen (frmMainSchliessen.cpp)
     void FensterLageSpeichern();
@@ -150,6 +151,7 @@ private:
     QTimer* auswahlTimer_ = nullptr;     // fasst viele Auswahländerungen zu einer Anzeige zusammen
     TitelAnimation titel_;
     bool gesperrt_ = false;
+    QPointer<QWidget> fokusVorher_;  // hatte den Fokus, bevor das Fenster gesperrt wurde
     bool indexGeladen_ = false;
     bool endeErzwungen_ = false;  // Tag "1": das Menü des Infobereichs will das Ende
 };

@@ -34,9 +34,9 @@ void frmMain::DateienFallengelassen(const QStringList& pfade) {
     EinsBasiert<std::string> liste;
     for (const QString& p : pfade) liste.Anhängen(S(p));
     QTimer::singleShot(0, this, [this, liste] {
-        centralWidget()->setEnabled(false);
+        Sperren(true);
         QApplication::processEvents();
-        centralWidget()->setEnabled(true);
+        Sperren(false);
         DragDropVerarbeiten(k_, liste);
         SucheNachlauf();
     });

@@ -32,6 +32,9 @@ void frmMain::AuswahlAktualisierenUndZeigen() {
 void frmMain::VerbindenSuche() {
     QLineEdit* eingabe = txtSongname_->lineEdit();
     eingabe->installEventFilter(this);
+    // Die Tasten kommen beim Kombifeld an (das Eingabefeld gibt ihm den Fokus ab) und gehen
+    // von dort am Filter des Eingabefelds vorbei.
+    txtSongname_->installEventFilter(this);
     connect(eingabe, &QLineEdit::textEdited, this, &frmMain::txtSongname_Change);
     // Ein Wert aus der Aufklappliste ändert den Text wie getippt. QComboBox meldet "activated"
     // auch, wenn das Feld den Fokus verliert und der Text zufällig einem Wert gleicht: das zählt nicht.
@@ -55,17 +58,16 @@ bool frmMain::eventFilter(QObject* objekt, QEvent* ereignis) {
         const int taste = static_cast<QKeyEvent*>(ereignis)->key();
         ausAufklappliste_ = taste == Qt::Key_Return || taste == Qt::Key_Enter;
     }
-    if (objekt == txtSongname_->lineEdit()) {
-        if (ereignis->type() == QEvent::KeyPress) {
-            const int taste = static_cast<QKeyEvent*>(ereignis)->key();
-            if (taste == Qt::Key_Backspace || taste == Qt::Key_Delete) {
-                k_.Suche.txtSongname.Text = S(txtSongname_->currentText());
-                ::txtSongname_KeyDown(k_, taste == Qt::Key_Backspace ? 8 : 46);
-            }
-        } else if (ereignis->type() == QEvent::MouseButtonRelease && txtSongname_->isEnabled()) {
-            QTimer::singleShot(0, this, [this] { txtSongname_Change(txtSongname_->currentText()); });
+    if ((objekt == txtSongname_ || objekt == txtSongname_->lineEdit()) && ereignis->type() == QEvent::KeyPress) {
+        const int taste = static_cast<QKeyEvent*>(ereignis)->key();
+        if (taste == Qt::Key_Backspace || taste == Qt::Key_Delete) {
+            k_.Suche.txtSongname.Text = S(txtSongname_->currentText());
+            ::txtSongname_KeyDown(k_, taste == Qt::Key_Backspace ? 8 : 46);
         }
     }
+    if (objekt == txtSongname_->lineEdit() && ereignis->type() == QEvent::MouseButtonRelease &&
+        txtSongname_->isEnabled())
+        QTimer::singleShot(0, this, [this] { txtSongname_Change(txtSongname_->currentText()); });
     return QMainWindow::eventFilter(objekt, ereignis);
 }
 
@@ -163,11 +165,7 @@ void frmMain::SucheStarten(int feld, const std::string& text) {
 }
 
 void frmMain::SucheVorbereiten() {
-    auto& s = k_.Suche;
-    s.SucheGesperrt = true;
-    s.cboSuche.ListIndex = 0;
-    s.cboSuche.Text = s.cboSuche.GewählterEintrag();
-    ::cboSuche_Click(k_);  // füllt die Vorschläge; die Sperre hält die Suche zurück
-    s.SucheGesperrt = false;
+    ::SucheZurücksetzen(k_);
+    tmrListe_->stop();
     SuchfelderAnzeigen();
 }

@@ -7,6 +7,7 @@
 #include "platform/SystemDienste.h"
 #include "platform/Verzeichnisse.h"
 #include "shell/Fortschritt.h"
+#include "ui/Anwendung.h"
 #include "ui/GuiOberflaeche.h"
 #include "ui/Programmstart.h"
 #include "ui/frmMain.h"
@@ -16,8 +17,7 @@
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("klangkartei"));
-    QApplication::setApplicationDisplayName(QString::fromUtf8(ProgrammTitel));
+    AnwendungEinrichten(app);
 
     frmMain* hauptfenster = nullptr;
     GuiOberfläche ui([&]() -> QWidget* { return hauptfenster; });

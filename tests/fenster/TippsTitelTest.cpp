@@ -75,6 +75,6 @@ TEST(TitelNachricht, OhneVerzögerungSofortUndNormalerTitel) {
     s = TitelNachrichtStarten(a, "xyz", 0);
     EXPECT_EQ(a.TitelPosition, 0);
     EXPECT_EQ(*TitelTimer1(a, 15).titel, "xy");
-    EXPECT_EQ(NormalerTitel("/home/a/Musik.kkt"), "Klangkartei 1.0 - Musik.kkt");
-    EXPECT_EQ(NormalerTitel(""), "Klangkartei 1.0");
+    EXPECT_EQ(NormalerTitel("/home/a/Musik.kkt"), "KlangKartei 1.0 - Musik.kkt");
+    EXPECT_EQ(NormalerTitel(""), "KlangKartei 1.0");
 }

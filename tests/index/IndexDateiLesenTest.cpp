@@ -323,7 +323,7 @@ TEST(IndexLesen, WartetAufLaufendeSpeicherung) {
     const std::string index = o / "index.kkt", temp = index + "~";
     DateiSchreiben(index, "#TAG:kk102\r\n" + kBeispielGrößen + kBeispielWerte + "\r\n");
     const std::string frage =
-        "Klangkartei wurde entweder nicht korrekt beendet oder speichert gerade Ihre Indexdatei.\nDurch den "
+        "KlangKartei wurde entweder nicht korrekt beendet oder speichert gerade Ihre Indexdatei.\nDurch den "
         "Ladevorgang dieser Datei würde der Speicher-Vorgang unterbrochen und Datenverlust könnte die Folge "
         "sein.\n\nMöchten Sie den Ladevorgang fortsetzen?";
     {  // die "~"-Datei verschwindet während des Wartens: keine Frage

@@ -8,7 +8,7 @@ TEST(Fortschritt, BalkenInVierEinhalbTausendEinheiten) {
     ASSERT_TRUE(FortschrittZeigenStarten(u.k, 200, true, true, true, "Speichere Indexdatei"));
     const auto& a = u.k.Fortschritt.ansicht;
     EXPECT_TRUE(a.offen);
-    EXPECT_EQ(a.titel, "Klangkartei");
+    EXPECT_EQ(a.titel, "KlangKartei");
     EXPECT_TRUE(FortschrittZeigen(u.k, 1, "eins"));
     EXPECT_EQ(a.balkenBreite, 22);  // Int(1 * 0,5 * 45) = 22 > 0 + 10
     EXPECT_TRUE(FortschrittZeigen(u.k, 1.4, "x"));

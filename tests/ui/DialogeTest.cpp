@@ -40,7 +40,7 @@ void DialogeTest::FortschrittsfensterZeigtBalkenUndBrichtAb() {
     QVERIFY(fenster->isVisible());
     QVERIFY(!fenster->isModal());
     QVERIFY(gesperrt);
-    QCOMPARE(fenster->windowTitle(), QStringLiteral("Klangkartei"));
+    QCOMPARE(fenster->windowTitle(), QStringLiteral("KlangKartei"));
     QCOMPARE(fenster->findChild<QLabel*>(QStringLiteral("lblVorgang"))->text(), QStringLiteral("Sortiere Liste"));
     QVERIFY(FortschrittZeigen(u.k, 100, "/musik/a.mp3"));
     auto* balken = fenster->findChild<QProgressBar*>(QStringLiteral("balken"));

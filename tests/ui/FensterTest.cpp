@@ -47,7 +47,7 @@ void FensterTest::ErsterStartWillkommenDannHinweis() {
     QVERIFY(w.Kind<QComboBox>("txtSongname")->hasFocus() || !QApplication::focusWidget());
     // Begrüßung im Titel nach 500 ms, Zeichen für Zeichen.
     QTRY_VERIFY_WITH_TIMEOUT(w.f->windowTitle().startsWith(QStringLiteral("Willkommen!")), 3000);
-    QTRY_COMPARE_WITH_TIMEOUT(w.f->windowTitle(), QStringLiteral("Klangkartei 1.0 - Klangkt.kkt"), 6000);
+    QTRY_COMPARE_WITH_TIMEOUT(w.f->windowTitle(), QStringLiteral("KlangKartei 1.0 - Klangkt.kkt"), 6000);
     // Der Hinweis ist weitergezählt, Start steht auf der Version: beim nächsten Mal kein Willkommen.
     QCOMPARE(w.k.E.TippsAktueller, int16_t{2});
     QCOMPARE(w.k.E.Start, VersionsStart());

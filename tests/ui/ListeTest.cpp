@@ -282,7 +282,11 @@ void ListeTest::SpaltenAusDenIndexOptionen() {
     QVERIFY(liste->showGrid());
     QVERIFY(!liste->horizontalHeader()->isHidden());
     QCOMPARE(liste->horizontalHeader()->sectionSize(0), 200);  // 3000 Twips
-    QCOMPARE(liste->horizontalHeader()->sectionSize(1), 140);
+    // Die letzte Spalte füllt die Liste; ihre Breite in der Beschreibung bleibt 2100 Twips.
+    QHeaderView* kopf = liste->horizontalHeader();
+    QCOMPARE(kopf->sectionPosition(1) + kopf->sectionSize(1), liste->viewport()->width());
+    QVERIFY(kopf->sectionSize(1) > 140);
+    QCOMPARE(w.k.Liste.lstSongs.spalten[1].breite, 2100);
     // Von Hand breiter und verschoben: die Beschreibung folgt beim Sichern (Twips, neue Reihenfolge).
     liste->horizontalHeader()->resizeSection(0, 100);
     liste->horizontalHeader()->moveSection(1, 0);

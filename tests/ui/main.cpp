@@ -1,9 +1,12 @@
 // Die Fenstertests: jede Testklasse nacheinander, mit eigenem XDG-Ordner für Einstellungen und Index.
+#include "ui/Anwendung.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
+int AnsichtTestAusführen(int argc, char** argv);
 int DialogeTestAusführen(int argc, char** argv);
 int FensterTestAusführen(int argc, char** argv);
 int ListeTestAusführen(int argc, char** argv);
@@ -18,8 +21,10 @@ int main(int argc, char** argv) {
     }
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    AnwendungEinrichten(app);
     int fehler = DialogeTestAusführen(argc, argv);
     fehler += FensterTestAusführen(argc, argv);
     fehler += ListeTestAusführen(argc, argv);
+    fehler += AnsichtTestAusführen(argc, argv);
     return fehler;
 }

@@ -53,8 +53,13 @@ frmSucheErweitertHinzufügen::frmSucheErweitertHinzufügen(QWidget* besitzer, Ka
     connect(cmdAbbrechen, &QPushButton::clicked, this, &QDialog::reject);
 
     auto* layout = new QGridLayout(this);
-    layout->addWidget(new QLabel(QStringLiteral("Suchen im &Feld:"), this), 0, 0);
-    layout->addWidget(new QLabel(QStringLiteral("&Suchbegriff:"), this), 0, 1);
+    // Mit Partner zeigt das Label das "&" als Kürzel an, nicht als Zeichen.
+    auto* lblFeld = new QLabel(QStringLiteral("Suchen im &Feld:"), this);
+    lblFeld->setBuddy(lstSucheArt_);
+    auto* lblBegriff = new QLabel(QStringLiteral("&Suchbegriff:"), this);
+    lblBegriff->setBuddy(txtSucheBegriff_);
+    layout->addWidget(lblFeld, 0, 0);
+    layout->addWidget(lblBegriff, 0, 1);
     layout->addWidget(lstSucheArt_, 1, 0, 3, 1);
     layout->addWidget(txtSucheBegriff_, 1, 1);
     layout->addWidget(lstSucheAuswahl_, 2, 1);
