@@ -7,7 +7,7 @@
 #include "index/IndexDatei.h"
 #include "media/MedienInfos.h"
 #include "platform/Verzeichnisse.h"
-#include "settings/Dateitypen.h"
+#include "index/Dateitypen.h"
 
 #include <filesystem>
 

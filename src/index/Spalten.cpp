@@ -5,7 +5,7 @@
 #include "app/Texte.h"
 #include "app/Trace.h"
 #include "app/Zahlen.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 
 #include <algorithm>
 #include <array>

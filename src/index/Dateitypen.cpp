@@ -1,4 +1,4 @@
-#include "settings/Dateitypen.h"
+#include "index/Dateitypen.h"
 
 #include "index/IndexOptionen.h"
 
