@@ -25,3 +25,7 @@ void DateitypenVorgabenEinsetzen(IndexOptionen& o) {
     }
     o.DateitypenLeer = false;
 }
+
+void DateitypenVorgabenWennLeer(IndexOptionen& o) {
+    if (o.DateitypenLeer) DateitypenVorgabenEinsetzen(o);
+}
