@@ -50,9 +50,7 @@ void AbfrageEinrichten(Kartei& k, const SuchAbfrage& a) {
         AbfrageZeileLesen(zeile, feld, bedingung, text);
         SuchbegriffeHinzufügen(s, text, feld, bedingung);
     }
-    s.cboSuche.Enabled = s.txtSongname.Enabled = false;
-    s.cboSuche.ListIndex = -1;
-    s.txtSongname.Text = MehrereAbfragenText;
+    MehrereAbfragenZeigen(k);
 }
 }  // namespace
 
