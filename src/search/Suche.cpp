@@ -127,6 +127,13 @@ void SucheZurücksetzen(Kartei& k) {
     k.Liste.DateiAnzahlText = DateiAnzahlText(static_cast<int32_t>(k.Liste.lstSongs.zeilen.size()), k.DateiAnzahl);
 }
 
+void MehrereAbfragenZeigen(Kartei& k) {
+    auto& s = k.Suche;
+    s.cboSuche.Enabled = s.txtSongname.Enabled = false;
+    FeldWählen(s.cboSuche, -1);
+    s.txtSongname.Text = MehrereAbfragenText;
+}
+
 bool SucheErweitertÜbernehmen(Kartei& k) {
     auto& s = k.Suche;
     if (s.SuchAnzahl == 0) {
@@ -145,9 +152,7 @@ bool SucheErweitertÜbernehmen(Kartei& k) {
         }
         s.txtSongname.Text = s.SuchBegriffe[1];
     } else {
-        s.cboSuche.Enabled = s.txtSongname.Enabled = false;
-        FeldWählen(s.cboSuche, -1);
-        s.txtSongname.Text = MehrereAbfragenText;
+        MehrereAbfragenZeigen(k);
     }
     // Neu gesetzter Text: die Schreibmarke steht am Anfang.
     s.txtSongname.SelStart = s.txtSongname.SelLength = 0;

@@ -1,7 +1,7 @@
 // Die Befehle des Hauptfensters, die Liste mit Maus und Tastatur und die Kontextmenüs. Jeder
 // Befehl ist eine QAction (FensterBefehle); Verweis, Menü, Kontextmenü und Taste lösen sie aus.
 #include "app/Kartei.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 #include "search/Hauptfenster.h"
 #include "ui/GuiOberflaeche.h"
 #include "ui/LinkLabel.h"
