@@ -101,6 +101,9 @@ void LinkeSpalte::Hinzufügen(QWidget* gruppe, QAction* befehl) {
     gruppe->layout()->addWidget(label);
     verweise_.insert(befehl, label);
     connect(label, &LinkLabel::geklickt, befehl, &QAction::trigger);
+    // Ob der Befehl gerade geht, steht an der Aktion; der Verweis folgt ihr.
+    label->setEnabled(befehl->isEnabled());
+    connect(befehl, &QAction::enabledChanged, label, &QWidget::setEnabled);
     connect(label, &LinkLabel::mausDarauf, this, &LinkeSpalte::Hover);
 }
 

@@ -96,8 +96,9 @@ void AnsichtTest::StartMeldungInDerBildschirmMitte() {
     QVERIFY(box.lage.isValid());
     QCOMPARE(box.titel, QStringLiteral("KlangKartei"));
     const QPoint mitte = QGuiApplication::primaryScreen()->availableGeometry().center();
-    QVERIFY2((box.lage.center() - mitte).manhattanLength() <= 4,
-             qPrintable(QStringLiteral("Mitte der Meldung %1,%2").arg(box.lage.center().x()).arg(box.lage.center().y())));
+    QVERIFY2(
+        (box.lage.center() - mitte).manhattanLength() <= 4,
+        qPrintable(QStringLiteral("Mitte der Meldung %1,%2").arg(box.lage.center().x()).arg(box.lage.center().y())));
 }
 
 void AnsichtTest::QtSprichtDeutsch() {

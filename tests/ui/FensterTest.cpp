@@ -183,6 +183,9 @@ void FensterTest::JederBefehlEineAktion() {
     QCOMPARE(ausgelöst.size(), 1);
     QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht eingebaut."));
     QCOMPARE(w.meldungen.back().schalter, Meldung::Information);
+    statistik->setEnabled(false);  // der Verweis folgt der Aktion
+    QVERIFY(!w.Kind<QLabel>("cmdIndexStatistik")->isEnabled());
+    statistik->setEnabled(true);
 
     QSignalSpy löschen(w.Kind<QAction>("cmdSucheLöschen"), &QAction::triggered);
     QVERIFY(Drücken(*w.f, "cmdSucheLöschen"));
