@@ -74,8 +74,7 @@ void AnsichtTest::TitelGenauWieGesetzt() {
     QCOMPARE(QGuiApplication::applicationDisplayName(), QCoreApplication::applicationName());  // nicht gesetzt
     TestOrdner ordner;
     Fenster w;
-    w.k.E.TippsAktueller = 0;
-    w.Starten({LiederIndex(ordner)});
+    w.MitLiedernStarten(ordner);
     QCOMPARE(w.f->windowTitle(), QStringLiteral("KlangKartei 1.0 - lieder.kkt"));
     w.ui.meldungsSkript = nullptr;
     MeldungsFenster box(QMessageBox::Ok);
@@ -130,13 +129,10 @@ void AnsichtTest::KeineDoppeltenFilterUndKeinSichtbaresUndZeichen() {
 void AnsichtTest::RuecktasteUndEntfBeendenDieErgaenzung() {
     TestOrdner ordner;
     Fenster w;
-    w.k.E.TippsAktueller = 0;
-    w.Starten({LiederIndex(ordner)});
-    auto* cboSuche = w.Kind<QComboBox>("cboSuche");
+    w.MitLiedernStarten(ordner);
     auto* txtSongname = w.Kind<QComboBox>("txtSongname");
     auto* eingabe = txtSongname->lineEdit();
-    cboSuche->setCurrentIndex(1);
-    emit cboSuche->activated(1);  // Interpret
+    w.FeldWählen(1);  // Interpret
     QTest::keyClicks(txtSongname, QStringLiteral("ch"));
     QCOMPARE(eingabe->text(), QStringLiteral("Chor"));
     QCOMPARE(eingabe->selectedText(), QStringLiteral("or"));
@@ -152,8 +148,7 @@ void AnsichtTest::RuecktasteUndEntfBeendenDieErgaenzung() {
 void AnsichtTest::FokusBleibtNachDemSortieren() {
     TestOrdner ordner;
     Fenster w;
-    w.k.E.TippsAktueller = 0;
-    w.Starten({LiederIndex(ordner)});
+    w.MitLiedernStarten(ordner);
     QVERIFY(Drücken(*w.f, "cmdSucheLöschen"));
     w.f->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(w.f.get()));
@@ -179,13 +174,11 @@ void AnsichtTest::AndererIndexZeigtSeineZahlen() {
     TestOrdner ordner, anderer;
     const std::string klein = KleinerIndex(anderer);
     Fenster w;
-    w.k.E.TippsAktueller = 0;
-    w.Starten({LiederIndex(ordner)});
+    w.MitLiedernStarten(ordner);
     QVERIFY(Drücken(*w.f, "cmdSucheLöschen"));
     auto* cboSuche = w.Kind<QComboBox>("cboSuche");
     auto* txtSongname = w.Kind<QComboBox>("txtSongname");
-    cboSuche->setCurrentIndex(1);
-    emit cboSuche->activated(1);
+    w.FeldWählen(1);
     QTest::keyClicks(txtSongname, QStringLiteral("ch"));
     QTRY_COMPARE_WITH_TIMEOUT(w.Zeilen(), 2, 2000);
     QCOMPARE(w.Text("lblDateiAnzahl"), QStringLiteral("2 Datei(en) gefunden\n6 Datei(en) im Index"));
@@ -209,8 +202,7 @@ void AnsichtTest::AndererIndexZeigtSeineZahlen() {
 void AnsichtTest::FensterBehaeltSeineForm() {
     TestOrdner ordner;
     Fenster w;
-    w.k.E.TippsAktueller = 0;
-    w.Starten({LiederIndex(ordner)});
+    w.MitLiedernStarten(ordner);
     QVERIFY(Drücken(*w.f, "cmdSucheLöschen"));
     auto* programm = w.Kind<QWidget>("fraProgramm");
     const int programmOben = programm->mapTo(w.f.get(), QPoint()).y();

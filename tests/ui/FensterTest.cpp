@@ -168,8 +168,7 @@ void FensterTest::FarbenUndBesuchteBefehle() {
 void FensterTest::JederBefehlEineAktion() {
     TestOrdner ordner;
     Fenster w;
-    w.k.E.TippsAktueller = 0;
-    w.Starten({LiederIndex(ordner)});
+    w.MitLiedernStarten(ordner);
     const QList<LinkLabel*> verweise = w.Kind<QWidget>("fraLinks1")->findChildren<LinkLabel*>();
     QCOMPARE(verweise.size(), 20);
     for (LinkLabel* verweis : verweise) {

@@ -15,6 +15,7 @@
 #include "ui/frmMain.h"
 #include "UiTestHilfen.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QTemporaryDir>
 
@@ -56,6 +57,14 @@ struct Fenster {
         besitzer = f.get();
         FensterStarten(k, *f, ui);
     }
+    // Ohne Hinweis starten, mit dem Index aus LiederIndex.
+    void MitLiedernStarten(const TestOrdner& ordner);
+    // Ein Feld in cboSuche wählen, wie die Person es tut.
+    void FeldWählen(int feld) const {
+        auto* cbo = Kind<QComboBox>("cboSuche");
+        cbo->setCurrentIndex(feld);
+        emit cbo->activated(feld);
+    }
     template <typename T> T* Kind(const char* name) const { return f->findChild<T*>(QString::fromUtf8(name)); }
     QString Text(const char* label) const { return Kind<QLabel>(label)->text(); }
     int Zeilen() const { return f->lstSongs()->model()->rowCount(); }
@@ -92,6 +101,11 @@ inline std::string LiederIndex(const TestOrdner& ordner, const std::function<voi
     const std::string pfad = ordner / "lieder.kkt";
     if (!DateiSpeichern(u.k, pfad, false)) qFatal("Index nicht geschrieben");
     return pfad;
+}
+
+inline void Fenster::MitLiedernStarten(const TestOrdner& ordner) {
+    k.E.TippsAktueller = 0;
+    Starten({LiederIndex(ordner)});
 }
 
 inline QStringList Spalte(SongListeAnsicht* liste, int spalte) {

@@ -31,8 +31,7 @@ private:
 void ListeTest::TippenSortierenWaehlenEntfernen() {
     TestOrdner ordner;
     Fenster w;
-    w.k.E.TippsAktueller = 0;
-    w.Starten({LiederIndex(ordner)});
+    w.MitLiedernStarten(ordner);
     QCOMPARE(w.Zeilen(), 0);  // nach dem Start wird noch nicht gesucht
     auto* eingabe = w.Kind<QComboBox>("txtSongname")->lineEdit();
     auto* tmrListe = w.Kind<QTimer>("tmrListe");
@@ -114,14 +113,12 @@ void ListeTest::TippenSortierenWaehlenEntfernen() {
 void ListeTest::FeldsucheMitVorschlaegenUndErgaenzung() {
     TestOrdner ordner;
     Fenster w;
-    w.k.E.TippsAktueller = 0;
-    w.Starten({LiederIndex(ordner)});
+    w.MitLiedernStarten(ordner);
     auto* cboSuche = w.Kind<QComboBox>("cboSuche");
     auto* txtSongname = w.Kind<QComboBox>("txtSongname");
     auto* eingabe = txtSongname->lineEdit();
     // Feld "Interpret": die Aufklappliste hält die Werte des Index, in seiner Reihenfolge.
-    cboSuche->setCurrentIndex(1);
-    emit cboSuche->activated(1);
+    w.FeldWählen(1);
     QCOMPARE(txtSongname->count(), 4);
     QCOMPARE(txtSongname->itemText(0), QStringLiteral("Band A"));
     QCOMPARE(txtSongname->itemText(2), QStringLiteral("Chor"));
@@ -171,8 +168,7 @@ void ListeTest::FeldsucheMitVorschlaegenUndErgaenzung() {
 void ListeTest::KontextmenueUndAuswahlhelfer() {
     TestOrdner ordner;
     Fenster w;
-    w.k.E.TippsAktueller = 0;
-    w.Starten({LiederIndex(ordner)});
+    w.MitLiedernStarten(ordner);
     QVERIFY(Drücken(*w.f, "cmdSucheLöschen"));
     auto* liste = w.f->lstSongs();
     auto* kontext = w.f->findChild<QMenu*>(QStringLiteral("mnu_kontext"));
