@@ -148,6 +148,7 @@ void SpaltenAnpassen(Kartei& k, Ergebnisliste& liste, bool& fehler) {
         s.tag = std::string(s.spalte == SpalteBenutzerdefiniert ? "b" : "");  // GCC 12: -Wrestrict-Fehlwarnung
     }
     liste.spalten = std::move(spalten);
+    liste.eingerichtet = true;
     liste.Geändert();
 }
 

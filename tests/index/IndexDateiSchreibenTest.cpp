@@ -248,3 +248,14 @@ TEST(IndexSchreiben, RegelmäßigUndBeimSchließen) {
     EXPECT_EQ(SpeichernVorSchließenFragen(u.k), SchließenAktion::OhneSpeichern);
     EXPECT_EQ(u.ui.meldungen.size(), vorher + 3);
 }
+
+TEST(IndexSchreiben, BeschreibungOhneSichtbareSpalteSchreibtDieListe) {
+    TestOrdner o;
+    TestUmgebung u;
+    ASSERT_TRUE(IndexAusBytesLaden(u, o, "#TAG:kk102\r\n#OPT:SPALTEN=3=0=1,4=0=2\r\n"));
+    EXPECT_TRUE(u.k.Liste.lstSongs.spalten.empty());
+    ASSERT_TRUE(DateiSpeichern(u.k, o / "index.kkt", false));
+    std::string alle;
+    for (int i = 1; i <= 30; ++i) alle += (i > 1 ? "," : "") + std::to_string(i) + "=0=0";
+    EXPECT_EQ(DateiLesen(o / "index.kkt"), StandardKopf(alle));
+}
