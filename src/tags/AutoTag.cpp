@@ -106,8 +106,7 @@ void AutoTagFeldSetzen(DateiInfo& ergebnis, std::string_view platzhalterKlein, c
         return;
     }
     if (platzhalterKlein != "%müll%")
-        KK_TRACE("AutoTagVersuchen",
-                 "Es wurde ein ungültiger Platzhalter verwendet: " + std::string(platzhalterKlein));
+        KK_TRACE("AutoTagVersuchen", "Es wurde ein ungültiger Platzhalter verwendet: " + std::string(platzhalterKlein));
 }
 
 bool AutoTagVersuchen(Kartei& k, const std::string& dateiname, const std::string& format, DateiInfo& ergebnis,
@@ -143,7 +142,8 @@ bool AutoTagVersuchen(Kartei& k, const std::string& dateiname, const std::string
         AutoTagRaten(k, dateiname, wörter, ergebnis, modus);
     } else {
         for (int32_t i = 1; i <= anzahl; ++i)
-            if (!AutoTagWortIgnorieren(k, wörter[i])) AutoTagFeldSetzen(ergebnis, Klein(platzhalter[i]), wörter[i], modus);
+            if (!AutoTagWortIgnorieren(k, wörter[i]))
+                AutoTagFeldSetzen(ergebnis, Klein(platzhalter[i]), wörter[i], modus);
     }
 
     if (ergebnis.Mp3_ID3v1_Genre.empty()) ergebnis.Mp3_ID3v1_Genre = KeinGenre;

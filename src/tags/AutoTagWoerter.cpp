@@ -32,7 +32,9 @@ bool FormatLesen(std::string_view format, EinsBasiert<std::string>& platzhalter,
 
 int32_t LetzteFundstelle(int32_t grenze, std::string_view text, std::string_view suchtext, bool ohneGroßKlein) {
     if (suchtext.empty()) return grenze;
-    const auto suchen = [&](int32_t ab) { return ohneGroßKlein ? InStrText(ab, text, suchtext) : InStr(ab, text, suchtext); };
+    const auto suchen = [&](int32_t ab) {
+        return ohneGroßKlein ? InStrText(ab, text, suchtext) : InStr(ab, text, suchtext);
+    };
     int32_t letzte = 0;
     for (int32_t p = suchen(1); p != 0 && p <= grenze; p = suchen(p + 1)) letzte = p;
     return letzte;

@@ -162,7 +162,7 @@ TEST(AutoTag, DateinamenLesen) {
     u.k.E.AutoTagAusschlußLeer = 0;
     EXPECT_EQ(Wörter(u, "/Live/Abba - LIVE.mp3"), V({"Abba"}));
     EXPECT_EQ(Wörter(u, "/Live/Abba - LIVE.mp3", false), V({"Live", "Abba"}));  // das letzte Wort immer
-    u.k.E.AutoTagAusschlußLeer = 1;  // als leer geführt: nicht befragt
+    u.k.E.AutoTagAusschlußLeer = 1;                                             // als leer geführt: nicht befragt
     EXPECT_EQ(Wörter(u, "/Live/Abba - LIVE.mp3"), V({"Live", "Abba", "LIVE"}));
 }
 
@@ -257,7 +257,8 @@ TEST(AutoTag, Meldungen) {
         return u.ui.meldungen[0].text;
     };
     const std::string pfad = "/Musik/Abba - Waterloo.mp3";
-    const std::string nicht = "Das von Ihnen zu Erkennung des TAGs verwendete Format konnte nicht verarbeitet werden.\n";
+    const std::string nicht =
+        "Das von Ihnen zu Erkennung des TAGs verwendete Format konnte nicht verarbeitet werden.\n";
     EXPECT_EQ(meldung(pfad, ""), "Sie haben kein AutoTAG-Format ausgewählt, nach dem der TAG erkannt werden soll.\n"
                                  "Bitte wählen Sie eines im 'Format'-Fenster aus.");
     EXPECT_EQ(meldung(pfad, "/%Interpret - %Titel%"),
