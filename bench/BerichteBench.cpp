@@ -49,8 +49,7 @@ void BM_ExportHtml(benchmark::State& state) {
     const std::string datei = "/tmp/kk_bench_export.htm";
     for (auto _ : state) {
         u.ui.antworten.push_back(Meldung::Abbrechen);
-        benchmark::DoNotOptimize(
-            ListeExportieren(u.k, liste, datei, ExportArt::Html, "", "", u.k.Liste.lstSongs));
+        benchmark::DoNotOptimize(ListeExportieren(u.k, liste, datei, ExportArt::Html, "", "", u.k.Liste.lstSongs));
     }
     u.ui.meldungen.clear();
     std::remove(datei.c_str());

@@ -65,5 +65,4 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
 
 extern const Befehl BefehlExport = {
     "export", "export [AUSWAHL] --format text|html|playlist DATEI [--sep komma|tab|semikolon|leerzeichen] [--quote]",
-    "Einträge exportieren: Text mit den Spalten der Hauptliste, HTML-Tabelle, Playliste (.pls sonst M3U)",
-    Ausführen};
+    "Einträge exportieren: Text mit den Spalten der Hauptliste, HTML-Tabelle, Playliste (.pls sonst M3U)", Ausführen};

@@ -10,8 +10,8 @@ struct Kartei;
 // Die zehn Suchmethoden in der Reihenfolge von cboSuchmethode.
 namespace Suchmethode {
 constexpr int16_t Dateiname = 0, PfadUndDateiname = 1, Id3v1Felder = 2, Id3v2Felder = 3, Dateigröße = 4,
-                  NichtVorhanden = 5, OhneId3v1Index = 6, OhneId3v1Datei = 7, OhneId3v2Index = 8,
-                  OhneId3v2Datei = 9, Anzahl = 10;
+                  NichtVorhanden = 5, OhneId3v1Index = 6, OhneId3v1Datei = 7, OhneId3v2Index = 8, OhneId3v2Datei = 9,
+                  Anzahl = 10;
 }
 
 // Die Listentexte von cboSuchmethode, Position 0..9.

@@ -48,8 +48,8 @@ std::string Ganz(double wert) { return TausenderFormat(wert); }
 std::string GrößenText(const Summen& s) {
     if (s.größen < 1) return "(keine Dateien mit Dateigröße gefunden)";
     // Der zweite Teiler ist 1204, nicht 1024: so rechnet das Programm seit jeher, und so bleibt es.
-    return Ganz(s.größeSumme) + " Bytes (" + ZweiStellenFormat(s.größeSumme / 1024 / 1204) +
-           " MB), durchschnittlich " + Ganz(Runden(s.größeSumme / double(s.größen), 0)) + " Bytes";
+    return Ganz(s.größeSumme) + " Bytes (" + ZweiStellenFormat(s.größeSumme / 1024 / 1204) + " MB), durchschnittlich " +
+           Ganz(Runden(s.größeSumme / double(s.größen), 0)) + " Bytes";
 }
 
 std::string DauerText(const Summen& s) {

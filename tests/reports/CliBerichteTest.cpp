@@ -44,8 +44,9 @@ TEST(CliBerichte, ExportMitSpaltenDerHauptliste) {
     EXPECT_NE(html.find("<td width=\"25%\">Album</td></tr>\r\n<tr bgcolor=#ffffff>\r\n<td>vier.mp3</td>"),
               std::string::npos);
 
-    for (const A& falsch : {A{"export", "l.txt"}, A{"export", "--format", "xml", "l.txt"}, A{"export", "--format", "text"},
-                            A{"export", "--format", "text", "a", "b"}, A{"export", "--format", "text", "a", "--sep", "x"}})
+    for (const A& falsch :
+         {A{"export", "l.txt"}, A{"export", "--format", "xml", "l.txt"}, A{"export", "--format", "text"},
+          A{"export", "--format", "text", "a", "b"}, A{"export", "--format", "text", "a", "--sep", "x"}})
         EXPECT_EQ(Cli(o, falsch).rückgabe, 2) << falsch.back();
     EXPECT_EQ(Cli(o, {"export", "--format", "text", "fehlt/l.txt"}).rückgabe, 1);
 }
@@ -75,7 +76,7 @@ TEST(CliBerichte, Dupes) {
     EXPECT_EQ(e.aus, "'vier.mp3' und 'a b.mp3' haben gleiche Dateigröße\n1 Datei(en) gefunden\n");
     e = Cli(o, {"dupes", "--methode", "6", "--search", "zwei"});
     EXPECT_EQ(e.aus, "0 Datei(en) gefunden\n");
-    for (const A& falsch : {A{"dupes"}, A{"dupes", "--methode", "10"}, A{"dupes", "--methode", "-1"},
-                            A{"dupes", "--methode", "1", "x"}})
+    for (const A& falsch :
+         {A{"dupes"}, A{"dupes", "--methode", "10"}, A{"dupes", "--methode", "-1"}, A{"dupes", "--methode", "1", "x"}})
         EXPECT_EQ(Cli(o, falsch).rückgabe, 2);
 }

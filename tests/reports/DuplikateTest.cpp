@@ -139,11 +139,13 @@ TEST(Duplikate, EinzelneDateienAusIndexUndNeuGelesen) {
     Neu(u.k, ohneTag);                      // der Index glaubt an einen Tag
     Neu(u.k, o / "fehlt.mp3");
     const auto l = Alle(u.k);
-    EXPECT_EQ(TrefferZeilen(u.k, Suchmethode::NichtVorhanden, l), std::vector<std::string>{"'fehlt.mp3' existiert nicht"});
+    EXPECT_EQ(TrefferZeilen(u.k, Suchmethode::NichtVorhanden, l),
+              std::vector<std::string>{"'fehlt.mp3' existiert nicht"});
     EXPECT_EQ(TrefferZeilen(u.k, Suchmethode::OhneId3v1Index, l),
               std::vector<std::string>{"'mit.mp3' enthält keinen ID3v1-TAG"});
-    EXPECT_EQ(TrefferZeilen(u.k, Suchmethode::OhneId3v1Datei, l),
-              (std::vector<std::string>{"'ohne.mp3' enthält keinen ID3v1-TAG", "'fehlt.mp3' enthält keinen ID3v1-TAG"}));
+    EXPECT_EQ(
+        TrefferZeilen(u.k, Suchmethode::OhneId3v1Datei, l),
+        (std::vector<std::string>{"'ohne.mp3' enthält keinen ID3v1-TAG", "'fehlt.mp3' enthält keinen ID3v1-TAG"}));
     EXPECT_EQ(TrefferZeilen(u.k, Suchmethode::OhneId3v2Index, l).size(), 3u);
     EXPECT_EQ(TrefferZeilen(u.k, Suchmethode::OhneId3v2Datei, l).back(), "'fehlt.mp3' enthält keinen ID3v2-TAG");
     // Der gespeicherte Datensatz bleibt, wie er war.

@@ -31,17 +31,15 @@ TEST(Export, ZitierenLässtStricheUndLeeresVerschwinden) {
 TEST(Export, TextMitAnführungUndOhne) {
     TestUmgebung u;
     BerichtsKartei(u.k);
-    EXPECT_EQ(Text(u.k, alle, "\"", ";"),
-              "\"Dateiname\";\"Interpret\";\"Titel\";\"Album\"\r\n"
-              "\"a b.mp3\";\"Nena\";\"99 Luftballons\";\r\n"
-              "\"zwei.mp3\";\"Can\";\"Vitamin \"C\" & <mehr>\";\"-\"\r\n"
-              "\"ohne.mp3\";;;\r\n"
-              "\"vier.mp3\";\"Abba\";;\r\n");
+    EXPECT_EQ(Text(u.k, alle, "\"", ";"), "\"Dateiname\";\"Interpret\";\"Titel\";\"Album\"\r\n"
+                                          "\"a b.mp3\";\"Nena\";\"99 Luftballons\";\r\n"
+                                          "\"zwei.mp3\";\"Can\";\"Vitamin \"C\" & <mehr>\";\"-\"\r\n"
+                                          "\"ohne.mp3\";;;\r\n"
+                                          "\"vier.mp3\";\"Abba\";;\r\n");
     // Ohne Anführung schützt nichts den Trenner im Wert.
-    EXPECT_EQ(Text(u.k, {1, 2}, "", " "),
-              "Dateiname Interpret Titel Album\r\n"
-              "a b.mp3 Nena 99 Luftballons \r\n"
-              "zwei.mp3 Can Vitamin \"C\" & <mehr> -\r\n");
+    EXPECT_EQ(Text(u.k, {1, 2}, "", " "), "Dateiname Interpret Titel Album\r\n"
+                                          "a b.mp3 Nena 99 Luftballons \r\n"
+                                          "zwei.mp3 Can Vitamin \"C\" & <mehr> -\r\n");
     EXPECT_EQ(Text(u.k, {}, "", "\t"), "Dateiname\tInterpret\tTitel\tAlbum\r\n");
 }
 
@@ -49,10 +47,9 @@ TEST(Export, SpalteOhneWertLässtAuchDenTrennerWeg) {
     TestUmgebung u;
     BerichtsKartei(u.k);
     // "Gibtsnicht" ist kein Feld: die Abfrage scheitert, die Spalte fällt aus jeder Zeile.
-    EXPECT_EQ(Text(u.k, {1, 3}, "", ",", {"Dateiname", "Gibtsnicht", "Titel"}),
-              "Dateiname,Gibtsnicht,Titel\r\n"
-              "a b.mp3,99 Luftballons\r\n"
-              "ohne.mp3,\r\n");
+    EXPECT_EQ(Text(u.k, {1, 3}, "", ",", {"Dateiname", "Gibtsnicht", "Titel"}), "Dateiname,Gibtsnicht,Titel\r\n"
+                                                                                "a b.mp3,99 Luftballons\r\n"
+                                                                                "ohne.mp3,\r\n");
     EXPECT_EQ(Text(u.k, {1}, "", ",", {"Dateiname", "Gibtsnicht"}), "Dateiname,Gibtsnicht\r\na b.mp3,\r\n");
 }
 
@@ -73,24 +70,21 @@ TEST(Export, HtmlZeilenGenau) {
         "font-family: Verdana; font-weight: bold\">\r\n"
         "<tr bgcolor=#dddddd>\r\n";
     EXPECT_EQ(ExportText(u.k, {1, 2, 3}, "x.htm", ExportArt::Html, "", "", vierSpalten),
-              kopf +
-                  "<td width=\"25%\">Dateiname</td><td width=\"25%\">Interpret</td><td width=\"25%\">Titel</td>"
-                  "<td width=\"25%\">Album</td></tr>\r\n"
-                  "<tr bgcolor=#ffffff>\r\n<td>a b.mp3</td>\r\n<td>Nena</td>\r\n<td>99 Luftballons</td>\r\n"
-                  "<td>-----</td>\r\n</tr>\r\n"
-                  "<tr bgcolor=#dddddd>\r\n<td>zwei.mp3</td>\r\n<td> Can </td>\r\n"
-                  "<td>Vitamin \"C\" & <mehr></td>\r\n<td>-</td>\r\n</tr>\r\n"
-                  "<tr bgcolor=#ffffff>\r\n<td>ohne.mp3</td>\r\n<td></td>\r\n<td></td>\r\n<td></td>\r\n</tr>\r\n"
-                  "</table></body></html>\r\n");
+              kopf + "<td width=\"25%\">Dateiname</td><td width=\"25%\">Interpret</td><td width=\"25%\">Titel</td>"
+                     "<td width=\"25%\">Album</td></tr>\r\n"
+                     "<tr bgcolor=#ffffff>\r\n<td>a b.mp3</td>\r\n<td>Nena</td>\r\n<td>99 Luftballons</td>\r\n"
+                     "<td>-----</td>\r\n</tr>\r\n"
+                     "<tr bgcolor=#dddddd>\r\n<td>zwei.mp3</td>\r\n<td> Can </td>\r\n"
+                     "<td>Vitamin \"C\" & <mehr></td>\r\n<td>-</td>\r\n</tr>\r\n"
+                     "<tr bgcolor=#ffffff>\r\n<td>ohne.mp3</td>\r\n<td></td>\r\n<td></td>\r\n<td></td>\r\n</tr>\r\n"
+                     "</table></body></html>\r\n");
     // Drei Spalten: 100 / 3 gerundet; ohne Einträge nur Kopf und Ende; ein Feld ohne Wert ohne Zelle.
     EXPECT_EQ(ExportText(u.k, {}, "x.htm", ExportArt::Html, "", "", {"Dateiname", "Titel", "Gibtsnicht"}),
-              kopf +
-                  "<td width=\"33%\">Dateiname</td><td width=\"33%\">Titel</td><td width=\"33%\">Gibtsnicht</td>"
-                  "</tr>\r\n</table></body></html>\r\n");
+              kopf + "<td width=\"33%\">Dateiname</td><td width=\"33%\">Titel</td><td width=\"33%\">Gibtsnicht</td>"
+                     "</tr>\r\n</table></body></html>\r\n");
     EXPECT_EQ(ExportText(u.k, {4}, "x.htm", ExportArt::Html, "", "", {"Gibtsnicht", "Dateiname"}),
-              kopf +
-                  "<td width=\"50%\">Gibtsnicht</td><td width=\"50%\">Dateiname</td></tr>\r\n"
-                  "<tr bgcolor=#ffffff>\r\n<td>vier.mp3</td>\r\n</tr>\r\n</table></body></html>\r\n");
+              kopf + "<td width=\"50%\">Gibtsnicht</td><td width=\"50%\">Dateiname</td></tr>\r\n"
+                     "<tr bgcolor=#ffffff>\r\n<td>vier.mp3</td>\r\n</tr>\r\n</table></body></html>\r\n");
 }
 
 TEST(Export, PlsNummeriertOhneLücke) {

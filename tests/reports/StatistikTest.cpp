@@ -16,11 +16,11 @@ std::vector<std::string> StatistikZeilen(const Kartei& k) {
 TEST(Statistik, LeererIndex) {
     TestUmgebung u;
     EXPECT_EQ(StatistikZeilen(u.k), (std::vector<std::string>{
-                               "Gesamtanzahl aller Dateien: 0, davon 0 auf austauschbaren Datenträgern",
-                               "Gesamtgröße: (keine Dateien mit Dateigröße gefunden)",
-                               "Gesamtspieldauer: (keine Dateien mit Spieldauer gefunden)",
-                               "Verwaltung: (keine Dateien mit Datumsangabe gefunden)",
-                           }));
+                                        "Gesamtanzahl aller Dateien: 0, davon 0 auf austauschbaren Datenträgern",
+                                        "Gesamtgröße: (keine Dateien mit Dateigröße gefunden)",
+                                        "Gesamtspieldauer: (keine Dateien mit Spieldauer gefunden)",
+                                        "Verwaltung: (keine Dateien mit Datumsangabe gefunden)",
+                                    }));
 }
 
 TEST(Statistik, DurchgerechneteZahlen) {
