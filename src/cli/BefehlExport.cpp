@@ -8,13 +8,6 @@
 #include <cstdio>
 
 namespace {
-struct ExportArgumente {
-    int16_t modus = -1;
-    int16_t untermodus = 0;
-    bool anführung = false;
-    std::string datei;
-};
-
 int16_t NachName(const std::string& wert, const std::vector<std::string>& namen) {
     for (size_t i = 0; i < namen.size(); ++i)
         if (namen[i] == wert) return int16_t(i);
@@ -22,7 +15,7 @@ int16_t NachName(const std::string& wert, const std::vector<std::string>& namen)
 }
 
 // Leer: in Ordnung; sonst der Grund für den Gebrauchsfehler.
-std::string ArgumenteLesen(const std::vector<std::string>& rest, ExportArgumente& e) {
+std::string ArgumenteLesen(const std::vector<std::string>& rest, ExportWahl& e) {
     for (size_t i = 0; i < rest.size(); ++i) {
         const std::string& a = rest[i];
         const bool mitWert = i + 1 < rest.size();
@@ -48,18 +41,15 @@ std::string ArgumenteLesen(const std::vector<std::string>& rest, ExportArgumente
 int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
     EintragsAuswahl auswahl;
     std::vector<std::string> rest;
-    ExportArgumente e;
+    ExportWahl e;
+    e.untermodus = 0;
     if (std::string fehler = AuswahlLesen(argumente, auswahl, rest); !fehler.empty()) return GebrauchsFehler(fehler);
     if (std::string fehler = ArgumenteLesen(rest, e); !fehler.empty()) return GebrauchsFehler(fehler);
     if (!IndexFürBefehlLaden(c)) return 1;
     std::vector<int32_t> gewählt;
     if (!AuswahlAnwenden(c, auswahl, gewählt)) return 1;
-    // Trenner und Anführung gelten nur für die Textform, wie im Dialog.
-    const bool text = e.modus == ExportArt::Text;
     c.ui.DreiKnopfFragenAbbrechen();
-    const bool gut = ListeExportieren(c.k, gewählt, e.datei, e.modus, text && e.anführung ? "\"" : "",
-                                      text ? ExportTrenner(e.untermodus) : "", c.k.Liste.lstSongs);
-    return gut ? 0 : 1;
+    return WahlExportieren(c.k, e, gewählt, c.k.Liste.lstSongs) ? 0 : 1;
 }
 }  // namespace
 

@@ -40,3 +40,22 @@ bool ListeExportieren(Kartei& k, const std::vector<int32_t>& liste, const std::s
 // Nur der Inhalt der Datei, wie ListeExportieren ihn schreibt (für Tests und Messungen).
 std::string ExportText(const Kartei& k, const std::vector<int32_t>& liste, const std::string& datei, int16_t modus,
                        std::string_view anführung, std::string_view trenner, const std::vector<std::string>& spalten);
+
+// Was frmExportieren gewählt hat: modus/untermodus -1 = nichts gewählt.
+struct ExportWahl {
+    int16_t modus = -1;
+    int16_t untermodus = -1;
+    bool anführung = false;
+    std::string datei;
+};
+// Die Wahl aus den gespeicherten Einstellungen (ExportDatei, ExportModus, …), zum Vorbelegen.
+ExportWahl ExportWahlAusEinstellungen(const Kartei& k);
+// Die Endung von datei passend zur Art: ".csv"/".txt", ".htm"/".html", ".m3u"/".pls" bleiben,
+// sonst wird die Endung ersetzt (Text .csv, HTML .htm, Playliste .m3u). Leer bleibt leer.
+std::string ExportEndungAnpassen(const std::string& datei, int16_t modus);
+// ListeExportieren mit der Wahl: Trenner und Anführung gelten nur für die Textform.
+bool WahlExportieren(Kartei& k, const ExportWahl& w, const std::vector<int32_t>& liste, const Ergebnisliste& lstSongs);
+// cmdOk: prüft die Wahl (Meldung bei Lücken), speichert sie in den Einstellungen, fragt vor dem
+// Überschreiben und exportiert liste. true: fertig, der Dialog schließt sich.
+bool ExportDialogAusführen(Kartei& k, const ExportWahl& w, const std::vector<int32_t>& liste,
+                           const Ergebnisliste& lstSongs);

@@ -3,6 +3,7 @@
 #include "BerichteHilfen.h"
 
 #include "app/Ergebnisliste.h"
+#include "app/Pfade.h"
 #include "reports/Export.h"
 #include "support/TestOrdner.h"
 
@@ -152,4 +153,47 @@ TEST(Export, NichtSchreibbarMeldetUndGibtFalse) {
     ASSERT_EQ(u.ui.meldungen.size(), 1u);
     EXPECT_EQ(u.ui.meldungen[0].schalter, Meldung::Ausrufezeichen);
     EXPECT_EQ(u.ui.meldungen[0].text.rfind("Die Datei '" + datei + "' konnte nicht geschrieben werden.\n\n", 0), 0u);
+}
+
+TEST(Export, DialogPrüftSpeichertUndFragtVorDemÜberschreiben) {
+    TestUmgebung u;
+    TestOrdner o;
+    BerichtsKartei(u.k);
+    ExportWahl w;
+    EXPECT_FALSE(ExportDialogAusführen(u.k, w, {1}, u.k.Liste.lstSongs));
+    w.datei = o / "l.txt";
+    EXPECT_FALSE(ExportDialogAusführen(u.k, w, {1}, u.k.Liste.lstSongs));
+    w.modus = ExportArt::Text;
+    EXPECT_FALSE(ExportDialogAusführen(u.k, w, {1}, u.k.Liste.lstSongs));
+    ASSERT_EQ(u.ui.meldungen.size(), 3u);
+    EXPECT_EQ(u.ui.meldungen[0].text, "Bitte geben Sie einen Dateinamen ein.");
+    EXPECT_EQ(u.ui.meldungen[1].text, "Bitte wählen Sie ein Export-Format.");
+    EXPECT_EQ(u.ui.meldungen[2].text, "Bitte wählen Sie das Unterformat zur Auswahl 'Text'.");
+    EXPECT_EQ(u.ui.meldungen[2].schalter, Meldung::Information);
+    EXPECT_FALSE(DoesExist(w.datei));
+
+    u.k.Liste.lstSongs.spalten = {{"Titel", "", 1400, 5}};
+    w.untermodus = 1;
+    w.anführung = true;
+    DateiSchreiben(w.datei, "alt");
+    u.ui.antworten = {Meldung::Nein};
+    EXPECT_FALSE(ExportDialogAusführen(u.k, w, {1}, u.k.Liste.lstSongs));
+    EXPECT_EQ(u.ui.meldungen.back().text,
+              "Die Datei '" + w.datei + "' existiert bereits.\n\nMöchten Sie diese überschreiben?");
+    EXPECT_EQ(u.ui.meldungen.back().schalter, Meldung::JaNeinAusruf);
+    EXPECT_EQ(DateiLesen(w.datei), "alt");
+    EXPECT_EQ(u.k.E.ExportDatei, w.datei);
+    EXPECT_EQ(u.k.E.ExportUntermodus, 1);
+    u.ui.antworten = {Meldung::Ja, Meldung::Abbrechen};
+    EXPECT_TRUE(ExportDialogAusführen(u.k, w, {1}, u.k.Liste.lstSongs));
+    EXPECT_EQ(DateiLesen(w.datei), "\"Titel\"\r\n\"99 Luftballons\"\r\n");
+}
+
+TEST(Export, EndungFolgtDerArt) {
+    EXPECT_EQ(ExportEndungAnpassen("/a/liste.csv", ExportArt::Html), "/a/liste.htm");
+    EXPECT_EQ(ExportEndungAnpassen("/a/liste.html", ExportArt::Html), "/a/liste.html");
+    EXPECT_EQ(ExportEndungAnpassen("/a/liste.htm", ExportArt::Playliste), "/a/liste.m3u");
+    EXPECT_EQ(ExportEndungAnpassen("/a/liste.pls", ExportArt::Playliste), "/a/liste.pls");
+    EXPECT_EQ(ExportEndungAnpassen("/a.b/liste", ExportArt::Text), "/a.b/liste.csv");
+    EXPECT_EQ(ExportEndungAnpassen("", ExportArt::Text), "");
 }
