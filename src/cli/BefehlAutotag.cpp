@@ -33,7 +33,8 @@ std::string ArgumenteLesen(const std::vector<std::string>& rest, AutoTagArgument
             a.anwenden = rest[++i];
         } else if (s == "--modus") {
             const std::string& m = rest[++i];
-            if (m != "0" && m != "1" && m != "2") return "autotag: --modus ist 0 (beide Tags), 1 (ID3v1) oder 2 (ID3v2).";
+            if (m != "0" && m != "1" && m != "2")
+                return "autotag: --modus ist 0 (beide Tags), 1 (ID3v1) oder 2 (ID3v2).";
             a.modus = static_cast<int16_t>(m[0] - '0');
         } else if (a.pfad.empty() && !(s.size() > 1 && s[0] == '-')) {
             a.pfad = s;

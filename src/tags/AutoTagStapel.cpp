@@ -26,7 +26,7 @@ int16_t Geschrieben(Kartei& k, bool gelungen, const std::string& fehlertext, con
     if (gelungen) return 0;
     if (!fehlertext.empty()) k.ui.MeldungZeigen(fehlertext, Meldung::Ausrufezeichen);
     return Weitermachen(k, std::string("Es ist ein Fehler beim Speichern des ") + version + "-TAGs aufgetreten.") ? 1
-                                                                                                                 : 2;
+                                                                                                                  : 2;
 }
 }  // namespace
 
@@ -68,8 +68,7 @@ AutoTagStapelErgebnis AutoTagStapel(Kartei& k, const std::vector<int32_t>& eintr
         int16_t ergebnis = 0;
         if (!AutoTagVersuchen(k, k.DateiPfade[n], format, arbeit, k.DateiDaten[n], modus))
             ergebnis = Weitermachen(k, "Es ist ein Fehler in der Funktion 'AutoTAG' aufgetreten.") ? 1 : 2;
-        else
-            ergebnis = AutoTagTagsSpeichern(k, n, arbeit, modus);
+        else ergebnis = AutoTagTagsSpeichern(k, n, arbeit, modus);
         if (ergebnis == 0) ++e.gespeichert;
         else ++e.nichtGespeichert;
         e.abgebrochen = ergebnis == 2;

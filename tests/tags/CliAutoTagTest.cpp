@@ -90,23 +90,25 @@ TEST(CliAutoTag, ErkennenUndZeigen) {
     e = Cli(o, {"autotag", "/Musik/Abba - Waterloo.mp3", "--format", "%Automatik% %Titel%"});
     EXPECT_EQ(e.rückgabe, 1);
     EXPECT_EQ(e.aus, "");
-    EXPECT_EQ(e.fehler,
-              "Bei Verwendung der Erkennungs-Variable '%Automatik%' können keine weiteren Variablen verwendet werden.\n");
+    EXPECT_EQ(
+        e.fehler,
+        "Bei Verwendung der Erkennungs-Variable '%Automatik%' können keine weiteren Variablen verwendet werden.\n");
 }
 
 TEST(CliAutoTag, FalscheAufrufe) {
     TestOrdner o;
-    for (const A& a : {A{"autotag"}, A{"autotag", "/a - b.mp3"}, A{"autotag", "/a - b.mp3", "--format"},
-                       A{"autotag", "/a.mp3", "--format", "%Titel%", "--modus", "3"},
-                       A{"autotag", "/a.mp3", "--apply", "%Titel%"}, A{"autotag", "--apply", "%Titel%", "--format", "x"},
-                       A{"autotag", "/a.mp3", "--format", "%Titel%", "--entry", "1"},
-                       A{"autotag", "/a.mp3", "/b.mp3", "--format", "%Titel%"}}) {
+    for (const A& a :
+         {A{"autotag"}, A{"autotag", "/a - b.mp3"}, A{"autotag", "/a - b.mp3", "--format"},
+          A{"autotag", "/a.mp3", "--format", "%Titel%", "--modus", "3"}, A{"autotag", "/a.mp3", "--apply", "%Titel%"},
+          A{"autotag", "--apply", "%Titel%", "--format", "x"},
+          A{"autotag", "/a.mp3", "--format", "%Titel%", "--entry", "1"},
+          A{"autotag", "/a.mp3", "/b.mp3", "--format", "%Titel%"}}) {
         const CliErgebnis e = Cli(o, a);
         EXPECT_EQ(e.rückgabe, 2) << a.size();
         EXPECT_EQ(e.aus, "");
     }
-    EXPECT_EQ(Cli(o, {"autotag", "--apply", "%Titel%", "--modus"}).fehler.rfind(
-                  "klangkartei-cli: autotag: --modus braucht einen Wert.\n", 0),
+    EXPECT_EQ(Cli(o, {"autotag", "--apply", "%Titel%", "--modus"})
+                  .fehler.rfind("klangkartei-cli: autotag: --modus braucht einen Wert.\n", 0),
               0u);
 }
 
