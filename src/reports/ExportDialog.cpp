@@ -45,8 +45,7 @@ bool ExportDialogAusführen(Kartei& k, const ExportWahl& w, const std::vector<in
     return WahlExportieren(k, w, liste, lstSongs);
 }
 
-bool WahlExportieren(Kartei& k, const ExportWahl& w, const std::vector<int32_t>& liste,
-                     const Ergebnisliste& lstSongs) {
+bool WahlExportieren(Kartei& k, const ExportWahl& w, const std::vector<int32_t>& liste, const Ergebnisliste& lstSongs) {
     const bool text = w.modus == ExportArt::Text;
     return ListeExportieren(k, liste, w.datei, w.modus, text && w.anführung ? "\"" : "",
                             text ? ExportTrenner(w.untermodus) : "", lstSongs);
