@@ -302,8 +302,7 @@ void ListeTest::SpaltenAusDenIndexOptionen() {
 void ListeTest::PfadOhneUtf8() {
     TestOrdner ordner;
     Fenster w;
-    w.k.E.TippsAktueller = 0;
-    w.Starten({LiederIndex(ordner)});
+    w.MitLiedernStarten(ordner);
     w.k.DateiPfade[1] = "/m/Lied_\xE4.mp3";
     QVERIFY(Drücken(*w.f, "cmdSucheLöschen"));
     QVERIFY(Spalte(w.f->lstSongs(), 0).contains(QStringLiteral("Lied_ä.mp3")));
