@@ -18,6 +18,8 @@
 
 // Programmtitel für Meldungen, Einstellungen und Fenster.
 inline constexpr const char* ProgrammTitel = "KlangKartei";
+// Der Name des Produkts, wie er in Exporten und im Software-Feld der Tags steht.
+inline constexpr const char* ProduktName = "Klangkartei";
 // "KlangKartei 1.0"
 std::string ProgrammTitelMitVersion();
 

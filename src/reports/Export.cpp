@@ -61,7 +61,7 @@ void TextForm(std::string& aus, const Kartei& k, const std::vector<int32_t>& lis
 void HtmlForm(std::string& aus, const Kartei& k, const std::vector<int32_t>& liste,
               const std::vector<std::string>& spalten) {
     const auto q = [](std::string_view text) { return Zitieren(text, "\""); };
-    const std::string titel = ProgrammTitel;
+    const std::string titel = ProduktName;
     aus += "<html><head><title>" + titel + "-HTML-Export</title></head><body>";
     aus += Zeilenende;
     aus += "<center><font face=" + q("Arial") + "><h2><a href=" + q(ProgrammWebAdresse) + ">" + titel +
