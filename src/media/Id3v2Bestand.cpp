@@ -59,13 +59,12 @@ bool KopfGültig(std::string_view b, size_t i) {
 
 // Länge des Frames bei i in Bytes; 0 bei freier Bitrate.
 int64_t FrameLänge(std::string_view b, size_t i) {
-    static const int kRaten[2][3][15] = {
-        {{0, 32, 64, 96, 128, 160, 192, 224, 256, 288, 320, 352, 384, 416, 448},
-         {0, 32, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320, 384},
-         {0, 32, 40, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320}},
-        {{0, 32, 48, 56, 64, 80, 96, 112, 128, 144, 160, 176, 192, 224, 256},
-         {0, 8, 16, 24, 32, 40, 48, 56, 64, 80, 96, 112, 128, 144, 160},
-         {0, 8, 16, 24, 32, 40, 48, 56, 64, 80, 96, 112, 128, 144, 160}}};
+    static const int kRaten[2][3][15] = {{{0, 32, 64, 96, 128, 160, 192, 224, 256, 288, 320, 352, 384, 416, 448},
+                                          {0, 32, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320, 384},
+                                          {0, 32, 40, 48, 56, 64, 80, 96, 112, 128, 160, 192, 224, 256, 320}},
+                                         {{0, 32, 48, 56, 64, 80, 96, 112, 128, 144, 160, 176, 192, 224, 256},
+                                          {0, 8, 16, 24, 32, 40, 48, 56, 64, 80, 96, 112, 128, 144, 160},
+                                          {0, 8, 16, 24, 32, 40, 48, 56, 64, 80, 96, 112, 128, 144, 160}}};
     static const int kFrequenz[3] = {44100, 48000, 32000};
     const auto* p = reinterpret_cast<const unsigned char*>(b.data() + i);
     const int version = (p[1] >> 3) & 3, layer = 4 - ((p[1] >> 1) & 3);  // layer 1..3
@@ -122,7 +121,8 @@ BestandRahmen Aus22(std::string_view id, std::string_view inhalt) {
     BestandRahmen r{Kennung22Zu23(id), {}};
     std::string neu(inhalt);
     if (id == "PIC") neu = PicZuApic(inhalt);
-    else if (id == "LNK" && inhalt.size() >= 3) neu = Kennung22Zu23(inhalt.substr(0, 3)) + std::string(inhalt.substr(3));
+    else if (id == "LNK" && inhalt.size() >= 3)
+        neu = Kennung22Zu23(inhalt.substr(0, 3)) + std::string(inhalt.substr(3));
     r.bytes = Rahmen23(r.id, std::string(2, '\0'), neu);
     return r;
 }
@@ -137,7 +137,8 @@ BestandRahmen Aus24(std::string_view id, std::string_view flags, std::string_vie
     uint32_t länge = 0;
     if ((format & 0x40) && pos < daten.size()) gruppe = daten.substr(pos++, 1);
     if ((format & 0x04) && pos < daten.size()) verschlüsselung = daten.substr(pos++, 1);
-    if ((format & 0x01) && pos + 4 <= daten.size()) länge = ZahlLesen(std::string_view(daten).substr(pos, 4), 7), pos += 4;
+    if ((format & 0x01) && pos + 4 <= daten.size())
+        länge = ZahlLesen(std::string_view(daten).substr(pos, 4), 7), pos += 4;
     std::string zusatz;
     unsigned char format23 = 0;
     if (format & 0x08) format23 |= 0x80, zusatz += BigEndian4(länge);
@@ -170,7 +171,7 @@ size_t RahmenLesen(std::string_view körper, int major, bool tagEntsynchron, std
     while (pos + kopf <= körper.size()) {
         const std::string_view id = körper.substr(pos, idLänge);
         if (id[0] == '\0' || !KennungGültig(id)) break;  // Auffüllung oder kein Rahmen mehr
-        const uint32_t größe = major == 2 ? ZahlLesen(körper.substr(pos + 3, 3), 8)
+        const uint32_t größe = major == 2   ? ZahlLesen(körper.substr(pos + 3, 3), 8)
                                : major == 3 ? ZahlLesen(körper.substr(pos + 4, 4), 8)
                                             : Größe24(körper, pos);
         if (größe > körper.size() - pos - kopf) break;  // reicht über den Tag hinaus
@@ -211,8 +212,8 @@ Id3v2Bestand Id3v2BestandLesen(DateiLeser& datei, int64_t position) {
     b.major = kopf[3];
     const auto flags = static_cast<unsigned char>(kopf[5]);
     // Die Norm: 28 Bit SyncSafe, bei 2.4 mit Fußzeile 10 Bytes mehr.
-    const int64_t normEnde = b.anfang + 10 + ZahlLesen(std::string_view(kopf).substr(6, 4), 7) +
-                             (b.major == 4 && (flags & 0x10) ? 10 : 0);
+    const int64_t normEnde =
+        b.anfang + 10 + ZahlLesen(std::string_view(kopf).substr(6, 4), 7) + (b.major == 4 && (flags & 0x10) ? 10 : 0);
     const int64_t grenze = std::min(normEnde, länge);
     // Etwas über die Grenze hinaus lesen, damit ein Frame dort bestätigt werden kann.
     const std::string daten(datei.Stück(b.anfang, std::min(länge, grenze + 4096) - b.anfang));

@@ -1,6 +1,7 @@
 #include "media/Id3v2Schreiben.h"
 
 #include "app/BitString.h"
+#include "app/FeldTabelle.h"
 #include "app/Kartei.h"
 #include "app/Pfade.h"
 #include "app/Tabelle.h"
@@ -64,24 +65,21 @@ std::string NeuerRahmen(const std::string& id, const std::string& text, const Be
 }
 
 struct FeldRahmen {
-    const char* id;
     std::string DateiInfo::*feld;
     bool immer;
+    std::string Id() const { return std::string(DateiFeldVon(feld).rahmen23); }
 };
 const FeldRahmen kFeldRahmen[] = {
-    {"PCNT", &DateiInfo::Mp3_ID3v2_PCNT, false}, {"TRCK", &DateiInfo::Mp3_ID3v2_TRCK, false},
-    {"TENC", &DateiInfo::Mp3_ID3v2_TENC, false}, {"WXXX", &DateiInfo::Mp3_ID3v2_WXXX, false},
-    {"TCOP", &DateiInfo::Mp3_ID3v2_TCOP, false}, {"TOPE", &DateiInfo::Mp3_ID3v2_TOPE, false},
-    {"TCOM", &DateiInfo::Mp3_ID3v2_TCOM, false}, {"TCON", &DateiInfo::Mp3_ID3v2_TCON, false},
-    {"COMM", &DateiInfo::Mp3_ID3v2_COMM, false}, {"TYER", &DateiInfo::Mp3_ID3v2_TYER, false},
-    {"TALB", &DateiInfo::Mp3_ID3v2_TALB, false}, {"TPE1", &DateiInfo::Mp3_ID3v2_TPE1, true},
-    {"TIT2", &DateiInfo::Mp3_ID3v2_TIT2, true},  {"TLAN", &DateiInfo::Mp3_ID3v2_TLAN, false},
-    {"TLEN", &DateiInfo::Mp3_ID3v2_TLEN, false}, {"TMED", &DateiInfo::Mp3_ID3v2_TMED, false},
-    {"TPUB", &DateiInfo::Mp3_ID3v2_TPUB, false}, {"TSSE", &DateiInfo::Mp3_ID3v2_TSSE, false},
+    {&DateiInfo::Mp3_ID3v2_PCNT, false}, {&DateiInfo::Mp3_ID3v2_TRCK, false}, {&DateiInfo::Mp3_ID3v2_TENC, false},
+    {&DateiInfo::Mp3_ID3v2_WXXX, false}, {&DateiInfo::Mp3_ID3v2_TCOP, false}, {&DateiInfo::Mp3_ID3v2_TOPE, false},
+    {&DateiInfo::Mp3_ID3v2_TCOM, false}, {&DateiInfo::Mp3_ID3v2_TCON, false}, {&DateiInfo::Mp3_ID3v2_COMM, false},
+    {&DateiInfo::Mp3_ID3v2_TYER, false}, {&DateiInfo::Mp3_ID3v2_TALB, false}, {&DateiInfo::Mp3_ID3v2_TPE1, true},
+    {&DateiInfo::Mp3_ID3v2_TIT2, true},  {&DateiInfo::Mp3_ID3v2_TLAN, false}, {&DateiInfo::Mp3_ID3v2_TLEN, false},
+    {&DateiInfo::Mp3_ID3v2_TMED, false}, {&DateiInfo::Mp3_ID3v2_TPUB, false}, {&DateiInfo::Mp3_ID3v2_TSSE, false},
 };
 
 bool IstFeldRahmen(const std::string& id) {
-    return std::any_of(std::begin(kFeldRahmen), std::end(kFeldRahmen), [&](const auto& f) { return id == f.id; });
+    return std::any_of(std::begin(kFeldRahmen), std::end(kFeldRahmen), [&](const auto& f) { return id == f.Id(); });
 }
 
 // Alle Rahmen in fester Reihenfolge; false, wenn die 19 Plätze nicht reichen. Mit einem alten
@@ -93,10 +91,11 @@ bool RahmenBauen(const DateiInfo& d, const DateiInfo* gelesen, const Id3v2Bestan
     rahmen.clear();
     std::string zähler;  // ein neuer Zähler steht ein zweites Mal am Ende der Liste
     for (const auto& f : kFeldRahmen) {
+        const std::string id = f.Id();
         std::vector<const BestandRahmen*> alte;
         if (bestand)
             for (const auto& r : bestand->rahmen)
-                if (r.id == f.id) alte.push_back(&r);
+                if (r.id == id) alte.push_back(&r);
         const std::string& wert = d.*f.feld;
         if (gelesen && (*gelesen).*f.feld == wert && !alte.empty()) {
             for (const auto* r : alte) rahmen += r->bytes;
@@ -105,8 +104,8 @@ bool RahmenBauen(const DateiInfo& d, const DateiInfo* gelesen, const Id3v2Bestan
         }
         for (size_t i = 0; i + 1 < alte.size(); ++i) rahmen += alte[i]->bytes;
         if (wert.empty() && !f.immer) continue;
-        const std::string neu = NeuerRahmen(f.id, wert, alte.empty() ? nullptr : alte.back());
-        if (f.id == std::string("PCNT")) zähler = neu;
+        const std::string neu = NeuerRahmen(id, wert, alte.empty() ? nullptr : alte.back());
+        if (f.feld == &DateiInfo::Mp3_ID3v2_PCNT) zähler = neu;
         rahmen += neu;
         ++plätze;
     }

@@ -53,8 +53,8 @@ std::string Entsynchron(const std::string& b) {
 
 struct Form {
     std::string name;
-    std::string tag;    // so steht er in der Datei
-    std::string intakt; // woran der unabhängige Leser misst (bei kaputter Größe: der heile Tag)
+    std::string tag;     // so steht er in der Datei
+    std::string intakt;  // woran der unabhängige Leser misst (bei kaputter Größe: der heile Tag)
 };
 
 std::vector<Form> Formen() {
@@ -72,19 +72,20 @@ std::vector<Form> Formen() {
     f.push_back({"2.4 UTF-8 mit 200-KB-Bild", mpeg::Id3v2(v24), ""});
 
     V2Tag komm;
-    komm.rahmen = {Text("TIT2", "Titel"),
-                   mpeg::Kommentar("COMM", mpeg::Utf16(" 0000031C 00000335", false, true),
-                                   mpeg::Utf16("iTunNORM", false, true), 1),
-                   mpeg::Kommentar("COMM", mpeg::Utf16("Hallo Welt", false, true), mpeg::Utf16("", false, true), 1,
-                                   "deu")};
+    komm.rahmen = {
+        Text("TIT2", "Titel"),
+        mpeg::Kommentar("COMM", mpeg::Utf16(" 0000031C 00000335", false, true), mpeg::Utf16("iTunNORM", false, true),
+                        1),
+        mpeg::Kommentar("COMM", mpeg::Utf16("Hallo Welt", false, true), mpeg::Utf16("", false, true), 1, "deu")};
     komm.padding = 256;
     f.push_back({"2.3 UTF-16-COMM mit Beschreibung", mpeg::Id3v2(komm), ""});
 
     V2Tag v22;
     v22.major = 2;
-    v22.rahmen = {Text("TT2", "Titel"),      Text("TP1", "Interpret"), Text("TAL", "Album"),
-                  Text("TYE", "1987"),       Text("TRK", "4/12"),      Text("TCO", "(17)"),
-                  Text("TEN", "Kodierer"),   mpeg::Kommentar("COM", "Kommentar", "Beschreibung"),
+    v22.rahmen = {Text("TT2", "Titel"),    Text("TP1", "Interpret"),
+                  Text("TAL", "Album"),    Text("TYE", "1987"),
+                  Text("TRK", "4/12"),     Text("TCO", "(17)"),
+                  Text("TEN", "Kodierer"), mpeg::Kommentar("COM", "Kommentar", "Beschreibung"),
                   Bild(20 * 1024, true)};
     v22.padding = 128;
     f.push_back({"2.2 mit PIC/COM/TT2", mpeg::Id3v2(v22), ""});
@@ -129,8 +130,8 @@ const Vorgang kVorgänge[] = {
 // Der unabhängige Leser; Rückgabe und letzte Zeile seiner Ausgabe.
 std::pair<int, std::string> Vergleichen(const std::string& vorher, const std::string& nachher,
                                         const std::string& schalter) {
-    const std::string befehl = std::string(KK_PYTHON) + " " + KK_ID3_VERGLEICH + " '" + vorher + "' '" + nachher +
-                               "' " + schalter + " 2>&1";
+    const std::string befehl =
+        std::string(KK_PYTHON) + " " + KK_ID3_VERGLEICH + " '" + vorher + "' '" + nachher + "' " + schalter + " 2>&1";
     FILE* p = ::popen(befehl.c_str(), "r");
     if (!p) return {-1, "popen"};
     std::string aus;

@@ -30,9 +30,9 @@ Vorlage VorlageBauen(std::mt19937& z) {
     for (auto& c : bild) c = static_cast<char>(z());
     t.rahmen = {Text(v22 ? "TT2" : "TIT2", "Titel"), Text(v22 ? "TP1" : "TPE1", mpeg::Utf16("Wer", false, true), 1),
                 mpeg::Kommentar(v22 ? "COM" : "COMM", "Text", "Beschreibung"),
-                mpeg::Rahmen{v22 ? "PIC" : "APIC",
-                             std::string(1, '\0') + (v22 ? std::string("PNG") : std::string("image/png") + '\0') +
-                                 "\x03" + '\0' + bild}};
+                mpeg::Rahmen{v22 ? "PIC" : "APIC", std::string(1, '\0') +
+                                                       (v22 ? std::string("PNG") : std::string("image/png") + '\0') +
+                                                       "\x03" + '\0' + bild}};
     t.padding = z() % 100;
     if (!v22 && z() % 4 == 0)
         t.erweiterterKopf = t.major == 3 ? mpeg::BigEndian(6, 4) + std::string(6, '\0')
