@@ -99,8 +99,11 @@ bool KennungGültig(std::string_view id) {
     return std::all_of(id.begin(), id.end(), [](char c) { return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9'); });
 }
 
-std::string Rahmen23(const std::string& id, std::string_view flags, std::string_view inhalt) {
-    return id + BigEndian4(static_cast<uint32_t>(inhalt.size())) + std::string(flags) + std::string(inhalt);
+std::string Rahmen23(std::string_view id, std::string_view flags, std::string_view inhalt) {
+    std::string aus;
+    aus.reserve(10 + inhalt.size());
+    aus.append(id).append(BigEndian4(static_cast<uint32_t>(inhalt.size()))).append(flags).append(inhalt);
+    return aus;
 }
 
 // PIC: das Bildformat aus drei Zeichen wird zum MIME-Typ von APIC.
@@ -117,19 +120,17 @@ std::string PicZuApic(std::string_view inhalt) {
     return std::string(inhalt.substr(0, 1)) + mime + '\0' + std::string(inhalt.substr(4));
 }
 
-BestandRahmen Aus22(std::string_view id, std::string_view inhalt) {
-    BestandRahmen r{Kennung22Zu23(id), {}};
+std::string Aus22(std::string_view id, std::string_view inhalt) {
     std::string neu(inhalt);
     if (id == "PIC") neu = PicZuApic(inhalt);
     else if (id == "LNK" && inhalt.size() >= 3)
         neu = Kennung22Zu23(inhalt.substr(0, 3)) + std::string(inhalt.substr(3));
-    r.bytes = Rahmen23(r.id, std::string(2, '\0'), neu);
-    return r;
+    return Rahmen23(Kennung22Zu23(id), std::string(2, '\0'), neu);
 }
 
 // 2.4: Flags in ihre 2.3-Stellen, Entsynchronisierung und Datenlängen-Angabe aufgelöst, die
 // Zusatzbytes in der Reihenfolge von 2.3.
-BestandRahmen Aus24(std::string_view id, std::string_view flags, std::string_view inhalt, bool tagEntsynchron) {
+std::string Aus24(std::string_view id, std::string_view flags, std::string_view inhalt, bool tagEntsynchron) {
     const auto status = static_cast<unsigned char>(flags[0]), format = static_cast<unsigned char>(flags[1]);
     std::string daten = (format & 0x02) || tagEntsynchron ? Entsynchronisieren(inhalt) : std::string(inhalt);
     size_t pos = 0;
@@ -145,7 +146,7 @@ BestandRahmen Aus24(std::string_view id, std::string_view flags, std::string_vie
     if (!verschlüsselung.empty()) format23 |= 0x40, zusatz += verschlüsselung;
     if (!gruppe.empty()) format23 |= 0x20, zusatz += gruppe;
     const char flags23[2] = {static_cast<char>((status << 1) & 0xE0), static_cast<char>(format23)};
-    return {std::string(id), Rahmen23(std::string(id), std::string_view(flags23, 2), zusatz + daten.substr(pos))};
+    return Rahmen23(id, std::string_view(flags23, 2), zusatz + daten.substr(pos));
 }
 
 // Größe eines 2.4-Rahmens: SyncSafe nach der Norm; manche Programme schreiben sie als
@@ -165,7 +166,7 @@ uint32_t Größe24(std::string_view körper, size_t pos) {
 }
 
 // Durchläuft die Rahmen von körper; gibt das Ende des letzten vollständigen Rahmens zurück.
-size_t RahmenLesen(std::string_view körper, int major, bool tagEntsynchron, std::vector<BestandRahmen>& rahmen) {
+size_t RahmenLesen(std::string_view körper, int major, bool tagEntsynchron, Id3v2Bestand& b) {
     const size_t kopf = major == 2 ? 6 : 10, idLänge = major == 2 ? 3 : 4;
     size_t pos = 0;
     while (pos + kopf <= körper.size()) {
@@ -176,9 +177,13 @@ size_t RahmenLesen(std::string_view körper, int major, bool tagEntsynchron, std
                                             : Größe24(körper, pos);
         if (größe > körper.size() - pos - kopf) break;  // reicht über den Tag hinaus
         const std::string_view inhalt = körper.substr(pos + kopf, größe);
-        if (major == 2) rahmen.push_back(Aus22(id, inhalt));
-        else if (major == 3) rahmen.push_back({std::string(id), std::string(körper.substr(pos, kopf + größe))});
-        else rahmen.push_back(Aus24(id, körper.substr(pos + 8, 2), inhalt, tagEntsynchron));
+        if (major == 3) {
+            b.rahmen.push_back({std::string(id), körper.substr(pos, kopf + größe)});
+        } else {
+            b.umgesetzt.push_back(major == 2 ? Aus22(id, inhalt)
+                                             : Aus24(id, körper.substr(pos + 8, 2), inhalt, tagEntsynchron));
+            b.rahmen.push_back({b.umgesetzt.back().substr(0, 4), b.umgesetzt.back()});
+        }
         pos += kopf + größe;
     }
     return pos;
@@ -202,13 +207,12 @@ std::string Kennung22Zu23(std::string_view id22) {
     return "X" + std::string(id22);
 }
 
-Id3v2Bestand Id3v2BestandLesen(DateiLeser& datei, int64_t position) {
-    Id3v2Bestand b;
+void Id3v2BestandLesen(DateiLeser& datei, int64_t position, Id3v2Bestand& b) {
     const int64_t länge = datei.Länge();
     b.anfang = position - 1;
-    if (!datei.Offen() || b.anfang < 0 || b.anfang + 10 > länge) return b;
+    if (!datei.Offen() || b.anfang < 0 || b.anfang + 10 > länge) return;
     const std::string kopf(datei.Stück(b.anfang, 10));
-    if (kopf.size() < 10 || kopf.compare(0, 3, "ID3") != 0) return b;
+    if (kopf.size() < 10 || kopf.compare(0, 3, "ID3") != 0) return;
     b.major = kopf[3];
     const auto flags = static_cast<unsigned char>(kopf[5]);
     // Die Norm: 28 Bit SyncSafe, bei 2.4 mit Fußzeile 10 Bytes mehr.
@@ -216,31 +220,28 @@ Id3v2Bestand Id3v2BestandLesen(DateiLeser& datei, int64_t position) {
         b.anfang + 10 + ZahlLesen(std::string_view(kopf).substr(6, 4), 7) + (b.major == 4 && (flags & 0x10) ? 10 : 0);
     const int64_t grenze = std::min(normEnde, länge);
     // Etwas über die Grenze hinaus lesen, damit ein Frame dort bestätigt werden kann.
-    const std::string daten(datei.Stück(b.anfang, std::min(länge, grenze + 4096) - b.anfang));
-    const std::string_view d(daten);
+    b.daten = datei.StückKopie(b.anfang, std::min(länge, grenze + 4096) - b.anfang);
+    const std::string_view d(b.daten);
     const size_t bis = static_cast<size_t>(std::min<int64_t>(grenze - b.anfang, static_cast<int64_t>(d.size())));
 
     size_t ende = FrameSuchen(d, 10, bis, FrameBestätigt);
     const bool entsynchron = (flags & 0x80) && b.major < 4;
-    std::string körper;
+    std::string_view körper = d.substr(10, ende - 10);
     if (entsynchron) {
         // Entsynchronisierte Daten enthalten kein FF Ex: jeder Frame-Kopf darin gehört zum Ton.
         ende = FrameSuchen(d, 10, ende, KopfGültig);
-        körper = Entsynchronisieren(d.substr(10, ende - 10));
-    } else {
-        körper = std::string(d.substr(10, ende - 10));
+        b.entsynchron = Entsynchronisieren(d.substr(10, ende - 10));
+        körper = b.entsynchron;
     }
     const size_t erweitert = ErweiterterKopf(körper, b.major, flags);
-    const size_t rahmenEnde = RahmenLesen(std::string_view(körper).substr(erweitert), b.major, flags & 0x80, b.rahmen);
+    const size_t rahmenEnde = RahmenLesen(körper.substr(erweitert), b.major, flags & 0x80, b);
     // Hinter den Rahmen steht nur Auffüllung; ein Frame-Kopf dort ist der Anfang des Tons.
     if (!entsynchron) ende = FrameSuchen(d, 10 + erweitert + rahmenEnde, ende, KopfGültig);
     b.ende = b.anfang + static_cast<int64_t>(ende);
     b.plausibel = normEnde <= länge || ende < bis;
-    b.alteBytes = daten.substr(0, ende);
-    return b;
 }
 
-Id3v2Bestand Id3v2BestandLesen(const std::string& pfad, int64_t position) {
+void Id3v2BestandLesen(const std::string& pfad, int64_t position, Id3v2Bestand& b) {
     DateiLeser datei(pfad);
-    return Id3v2BestandLesen(datei, position);
+    Id3v2BestandLesen(datei, position, b);
 }

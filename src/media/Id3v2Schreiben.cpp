@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <deque>
 #include <fcntl.h>
 #include <limits>
 #include <unistd.h>
@@ -78,48 +79,81 @@ const FeldRahmen kFeldRahmen[] = {
     {&DateiInfo::Mp3_ID3v2_TMED, false}, {&DateiInfo::Mp3_ID3v2_TPUB, false}, {&DateiInfo::Mp3_ID3v2_TSSE, false},
 };
 
-bool IstFeldRahmen(const std::string& id) {
-    return std::any_of(std::begin(kFeldRahmen), std::end(kFeldRahmen), [&](const auto& f) { return id == f.Id(); });
+// Die Kennungen der Tabelle, einmal nachgeschlagen.
+const std::vector<std::string>& FeldKennungen() {
+    static const std::vector<std::string> ids = [] {
+        std::vector<std::string> v;
+        for (const auto& f : kFeldRahmen) v.push_back(f.Id());
+        return v;
+    }();
+    return ids;
 }
+
+bool IstFeldRahmen(const std::string& id) {
+    const auto& ids = FeldKennungen();
+    return std::find(ids.begin(), ids.end(), id) != ids.end();
+}
+
+// Der neue Tag als Folge von Stücken: neue Rahmen liegen hier, unveränderte bleiben Ansichten in
+// den alten Tag, damit ein großes Bild nicht kopiert wird.
+struct NeueRahmen {
+    std::deque<std::string> eigen;
+    std::vector<std::string_view> teile;
+    int64_t größe = 0;
+    void Anhängen(std::string_view t) {
+        teile.push_back(t);
+        größe += static_cast<int64_t>(t.size());
+    }
+    void Eigen(std::string t) {
+        eigen.push_back(std::move(t));
+        Anhängen(eigen.back());
+    }
+    std::string Zusammen() const {
+        std::string aus;
+        aus.reserve(static_cast<size_t>(größe));
+        for (auto t : teile) aus.append(t);
+        return aus;
+    }
+};
 
 // Alle Rahmen in fester Reihenfolge; false, wenn die 19 Plätze nicht reichen. Mit einem alten
 // Tag (bestand) bleiben die Rahmen eines Feldes, das sich gegenüber dem Gelesenen (gelesen)
 // nicht geändert hat, Byte für Byte; von einem geänderten wird nur der letzte ersetzt, den der
 // Leser zeigt. Alle übrigen Rahmen des alten Tags folgen unverändert.
-bool RahmenBauen(const DateiInfo& d, const DateiInfo* gelesen, const Id3v2Bestand* bestand, std::string& rahmen) {
+bool RahmenBauen(const DateiInfo& d, const DateiInfo* gelesen, const Id3v2Bestand* bestand, NeueRahmen& rahmen) {
     int32_t plätze = 0;
-    rahmen.clear();
     std::string zähler;  // ein neuer Zähler steht ein zweites Mal am Ende der Liste
-    for (const auto& f : kFeldRahmen) {
-        const std::string id = f.Id();
+    for (size_t nr = 0; nr < std::size(kFeldRahmen); ++nr) {
+        const FeldRahmen& f = kFeldRahmen[nr];
+        const std::string& id = FeldKennungen()[nr];
         std::vector<const BestandRahmen*> alte;
         if (bestand)
             for (const auto& r : bestand->rahmen)
                 if (r.id == id) alte.push_back(&r);
         const std::string& wert = d.*f.feld;
         if (gelesen && (*gelesen).*f.feld == wert && !alte.empty()) {
-            for (const auto* r : alte) rahmen += r->bytes;
+            for (const auto* r : alte) rahmen.Anhängen(r->bytes);
             ++plätze;
             continue;
         }
-        for (size_t i = 0; i + 1 < alte.size(); ++i) rahmen += alte[i]->bytes;
+        for (size_t i = 0; i + 1 < alte.size(); ++i) rahmen.Anhängen(alte[i]->bytes);
         if (wert.empty() && !f.immer) continue;
-        const std::string neu = NeuerRahmen(id, wert, alte.empty() ? nullptr : alte.back());
+        std::string neu = NeuerRahmen(id, wert, alte.empty() ? nullptr : alte.back());
         if (f.feld == &DateiInfo::Mp3_ID3v2_PCNT) zähler = neu;
-        rahmen += neu;
+        rahmen.Eigen(std::move(neu));
         ++plätze;
     }
-    if (!zähler.empty()) rahmen += zähler, ++plätze;
+    if (!zähler.empty()) rahmen.Eigen(zähler), ++plätze;
     // Die übrigen Rahmen: aus dem alten Tag, sonst die des Lesers (ein einzelnes Leerzeichen heißt: keine).
-    std::string weitere;
+    std::vector<std::string_view> weitere;
     if (bestand) {
         for (const auto& r : bestand->rahmen)
-            if (!IstFeldRahmen(r.id)) weitere += r.bytes;
+            if (!IstFeldRahmen(r.id)) weitere.push_back(r.bytes);
     } else if (d.Mp3_ID3v2_Weitere.size() >= 2) {
-        weitere = d.Mp3_ID3v2_Weitere;
+        weitere.push_back(d.Mp3_ID3v2_Weitere);
     }
     if (!weitere.empty() && plätze >= kRahmenPlätze) return false;
-    rahmen += weitere;
+    for (auto w : weitere) rahmen.Anhängen(w);
     return true;
 }
 
@@ -127,27 +161,54 @@ std::string KannNichtGelöschtWerden(const std::string& pfad) {
     return "Der ID3v2-TAG konnte nicht gespeichert werden.\nDie Datei '" + pfad + "' konnte nicht gelöscht werden.";
 }
 
+// Erste Stelle, an der sich der neue Tag (Stücke, dann nullen NUL-Bytes) vom alten unterscheidet,
+// von vorn oder (rückwärts) von hinten gezählt; die Länge, wenn keine.
+size_t ErsterUnterschied(std::vector<std::string_view> teile, std::string_view alt, bool rückwärts) {
+    const std::string nullen(std::min<size_t>(alt.size(), 4096), '\0');
+    size_t gesamt = 0;
+    for (auto t : teile) gesamt += t.size();
+    if (gesamt > alt.size()) return 0;  // passt nicht: an Ort und Stelle gibt es das nicht
+    for (size_t rest = alt.size() - std::min(gesamt, alt.size()); rest > 0; rest -= std::min(rest, nullen.size()))
+        teile.emplace_back(nullen.data(), std::min(rest, nullen.size()));
+    if (rückwärts) std::reverse(teile.begin(), teile.end());
+    size_t pos = 0;
+    for (auto t : teile) {
+        const std::string_view gegen = alt.substr(rückwärts ? alt.size() - pos - t.size() : pos, t.size());
+        if (t != gegen) {  // erst das ganze Stück auf einmal, dann Byte für Byte
+            size_t n = 0;
+            while (rückwärts ? t[t.size() - 1 - n] == gegen[t.size() - 1 - n] : t[n] == gegen[n]) ++n;
+            return pos + n;
+        }
+        pos += t.size();
+    }
+    return alt.size();
+}
+
 // Überschreibt nur die Bytes des alten Tags, und von ihnen nur die, die sich ändern (ein großes
-// Bild bleibt dann meist liegen); misslingt das, kommen die alten Bytes zurück.
-bool AnOrtUndStelle(const std::string& pfad, const std::string& vorn, int64_t padding, const std::string& alt,
+// Bild bleibt dann liegen); misslingt das, kommen die alten Bytes zurück.
+bool AnOrtUndStelle(const std::string& pfad, const std::vector<std::string_view>& teile, std::string_view alt,
                     std::string& fehlertext) {
+    const size_t von = ErsterUnterschied(teile, alt, false);
+    if (von == alt.size()) return true;
+    const size_t bis = alt.size() - ErsterUnterschied(teile, alt, true);
+    std::string neu;  // die Bytes [von, bis) des neuen Tags
+    size_t pos = 0;
+    for (auto t : teile) {
+        if (pos + t.size() > von && pos < bis)
+            neu.append(t.substr(von > pos ? von - pos : 0, std::min(bis, pos + t.size()) - std::max(von, pos)));
+        pos += t.size();
+    }
+    neu.resize(bis - von, '\0');  // dahinter Auffüllung
     int fd = ::open(pfad.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK);
     if (fd < 0) {
         fehlertext = TagSpeicherFehlerText("ID3v2", pfad, errno);
         return false;
     }
-    const std::string neu = vorn + std::string(static_cast<size_t>(padding), '\0');
-    size_t von = 0, bis = neu.size();
-    if (alt.size() == neu.size()) {
-        while (von < bis && neu[von] == alt[von]) ++von;
-        while (bis > von && neu[bis - 1] == alt[bis - 1]) --bis;
-    }
     int fehler = 0;
     errno = 0;
-    if (::pwrite(fd, neu.data() + von, bis - von, static_cast<off_t>(von)) != static_cast<ssize_t>(bis - von)) {
+    if (::pwrite(fd, neu.data(), neu.size(), static_cast<off_t>(von)) != static_cast<ssize_t>(neu.size())) {
         fehler = errno != 0 ? errno : ENOSPC;
-        (void)!::pwrite(fd, alt.data() + von, std::min(alt.size(), bis) - std::min(alt.size(), von),
-                        static_cast<off_t>(von));
+        (void)!::pwrite(fd, alt.data() + von, bis - von, static_cast<off_t>(von));
     }
     if (::close(fd) != 0 && fehler == 0) fehler = errno;
     if (fehler != 0) fehlertext = TagSpeicherFehlerText("ID3v2", pfad, fehler);
@@ -194,20 +255,20 @@ bool MP3TagSpeichernV2Datei(Kartei& k, const std::string& dateiname, std::string
     const bool gefunden = Mp3TAGLesenV2(dateiname, alt, k.E.TAGsBytesSuchen) && alt.Mp3_ID3v2_TAGGröße >= 0;
     // Gearbeitet wird mit der wahren Ausdehnung des alten Tags, nicht mit der gelesenen Größe.
     Id3v2Bestand bestand;
-    if (gefunden) bestand = Id3v2BestandLesen(dateiname, alt.Mp3_ID3v2_TAGPosition);
+    if (gefunden) Id3v2BestandLesen(dateiname, alt.Mp3_ID3v2_TAGPosition, bestand);
     if (gefunden && !bestand.plausibel) {
         fehlertext = "Der ID3v2-TAG konnte nicht gespeichert werden.\nDer ID3v2-TAG der Datei '" + dateiname +
                      "' konnte nicht entfernt werden.\n" + kTagGrößeUnplausibel;
         return false;
     }
-    std::string rahmen;
+    NeueRahmen rahmen;
     if (!RahmenBauen(info, gefunden ? &alt : nullptr, gefunden ? &bestand : nullptr, rahmen) ||
-        rahmen.size() > std::numeric_limits<int32_t>::max() / 2) {
+        rahmen.größe > std::numeric_limits<int32_t>::max() / 2) {
         fehlertext = "Der ID3v2-TAG der Datei '" + dateiname + "' konnte nicht gespeichert werden.\n" +
                      FehlerBeschreibung(9) + " (Fehler 9).";
         return false;
     }
-    const auto summe = static_cast<int64_t>(rahmen.size());
+    const int64_t summe = rahmen.größe;
     const int64_t altGröße = bestand.ende - bestand.anfang;
     // Ein Tag, der nicht am ersten Byte steht, wird nie überschrieben, auch wenn der neue passte.
     const bool neuSchreiben = !gefunden || summe + 10 > altGröße || bestand.anfang > 0;
@@ -215,8 +276,12 @@ bool MP3TagSpeichernV2Datei(Kartei& k, const std::string& dateiname, std::string
     const double anteil = (summe + 10) * double(k.E.TAGsProzentHinzufügen) / 100;
     int64_t padding = neuSchreiben ? static_cast<int64_t>(RundenGerade(anteil)) : altGröße - (summe + 10);
     padding = std::clamp<int64_t>(padding, 0, std::numeric_limits<int32_t>::max() / 2);  // nie ein Kopf, der lügt
-    const std::string vorn = Mp3TAGSpeichernV2TAGHeaderZurückgeben(static_cast<int32_t>(padding + summe)) + rahmen;
-    if (!neuSchreiben) return AnOrtUndStelle(dateiname, vorn, padding, bestand.alteBytes, fehlertext);
+    const std::string kopf = Mp3TAGSpeichernV2TAGHeaderZurückgeben(static_cast<int32_t>(padding + summe));
+    if (!neuSchreiben) {
+        rahmen.teile.insert(rahmen.teile.begin(), kopf);
+        return AnOrtUndStelle(dateiname, rahmen.teile, bestand.AlteBytes(), fehlertext);
+    }
+    const std::string vorn = kopf + rahmen.Zusammen();
 
     DateiRest rest{dateiname, {{0, DateiGrößeLesen(dateiname)}}};
     if (gefunden && !TAGEntfernenV2(k, dateiname, eintrag, true, rest)) {
@@ -259,7 +324,8 @@ bool TAGEntfernenV2(Kartei& k, const std::string& dateiname, int32_t eintrag, bo
         k.ui.MeldungZeigen(kannNicht + "Diese enthält keinen ID3v2-TAG.", Meldung::Information);
         return false;
     }
-    const Id3v2Bestand tag = Id3v2BestandLesen(dateiname, datensatz.Mp3_ID3v2_TAGPosition);
+    Id3v2Bestand tag;
+    Id3v2BestandLesen(dateiname, datensatz.Mp3_ID3v2_TAGPosition, tag);
     if (!tag.plausibel) {
         k.ui.MeldungZeigen(kannNicht + kTagGrößeUnplausibel, Meldung::Ausrufezeichen);
         return false;

@@ -138,10 +138,10 @@ TEST(TagErhalt, TexteUndKommentare) {
     // Kommentare: gelesen wird nur der Text; geschrieben behält der letzte Sprache und Beschreibung,
     // der davor bleibt Byte für Byte.
     V2Tag t;
-    const Rahmen norm = mpeg::Kommentar("COMM", mpeg::Utf16(" 0000031C", false, true),
-                                        mpeg::Utf16("iTunNORM", false, true), 1);
-    t.rahmen = {norm, mpeg::Kommentar("COMM", mpeg::Utf16("Alt", true, false), mpeg::Utf16("Notiz", true, false), 2,
-                                      "deu")};
+    const Rahmen norm =
+        mpeg::Kommentar("COMM", mpeg::Utf16(" 0000031C", false, true), mpeg::Utf16("iTunNORM", false, true), 1);
+    t.rahmen = {norm,
+                mpeg::Kommentar("COMM", mpeg::Utf16("Alt", true, false), mpeg::Utf16("Notiz", true, false), 2, "deu")};
     t.padding = 100;
     DateiSchreiben(pfad, mpeg::Id3v2(t) + kTon);
     d = Lesen(pfad);
@@ -155,9 +155,9 @@ TEST(TagErhalt, TexteUndKommentare) {
     d.Mp3_ID3v2_COMM = "Ω";
     ASSERT_TRUE(MP3TagSpeichernV2Datei(u.k, pfad, fehler, d)) << fehler;
     const std::string omega("\xFF\xFE\xA9\x03", 4);
-    EXPECT_TRUE(Enthält(DateiLesen(pfad),
-                        mpeg::RahmenBytes(mpeg::Kommentar("COMM", omega, mpeg::Utf16("Notiz", false, true), 1, "deu"),
-                                          3)));
+    EXPECT_TRUE(
+        Enthält(DateiLesen(pfad),
+                mpeg::RahmenBytes(mpeg::Kommentar("COMM", omega, mpeg::Utf16("Notiz", false, true), 1, "deu"), 3)));
     EXPECT_EQ(Lesen(pfad).Mp3_ID3v2_COMM, "Ω");
 
     // UTF-8 mit Beschreibung liest sich ebenso getrennt.
@@ -195,9 +195,9 @@ TEST(TagErhalt, Version22WirdUmgesetzt) {
     EXPECT_TRUE(Enthält(danach, mpeg::RahmenBytes(Rahmen{"APIC", std::string(1, '\0') + "image/png" + '\0' + "\x03" +
                                                                      "Bild" + '\0' + "PNGDATEN"},
                                                   3)));
-    EXPECT_TRUE(Enthält(danach, mpeg::RahmenBytes(Rahmen{"APIC", std::string(1, '\0') + "image/gif" + '\0' +
-                                                                     '\0' + '\0' + "GIF89a"},
-                                                  3)));
+    EXPECT_TRUE(Enthält(
+        danach,
+        mpeg::RahmenBytes(Rahmen{"APIC", std::string(1, '\0') + "image/gif" + '\0' + '\0' + '\0' + "GIF89a"}, 3)));
     EXPECT_EQ(danach.substr(danach.size() - kTon.size()), kTon);
     EXPECT_EQ(Lesen(pfad).Mp3_ID3v2_TIT2, "Neu");
 }
