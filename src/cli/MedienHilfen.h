@@ -9,6 +9,3 @@ std::string VollerDateiPfad(const std::string& pfad);
 // Lädt den Index (--index oder einen bestehenden Standard-Index) für seine Dateitypen; ohne
 // Index gelten die 13 Vorgaben. true: ein Index ist geladen.
 bool MedienBefehlVorbereiten(CliKontext& c);
-// Steht pfad im geladenen Index, wird sein Eintrag neu gelesen und der Index gespeichert.
-// false nur, wenn das Speichern scheitert.
-bool IndexEintragAuffrischen(CliKontext& c, const std::string& pfad);

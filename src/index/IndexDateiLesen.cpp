@@ -3,13 +3,13 @@
 #include "app/Tabelle.h"
 #include "app/Texte.h"
 #include "app/Zahlen.h"
-#include "index/BlockLeser.h"
+#include "app/BlockLeser.h"
 #include "index/IndexDatei.h"
 #include "index/IndexZeilen.h"
 #include "index/Spalten.h"
 #include "intake/NichtVerfuegbar.h"
 #include "media/MedienInfos.h"
-#include "settings/Dateitypen.h"
+#include "index/Dateitypen.h"
 #include "shell/Fortschritt.h"
 
 #include <chrono>

@@ -6,7 +6,7 @@
 #include "app/Texte.h"
 #include "app/Trace.h"
 #include "app/Zahlen.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 
 #include <algorithm>
 #include <array>
@@ -51,11 +51,16 @@ bool PostenLesen(const std::string& text, SpaltenPosten& p) {
     return true;
 }
 
-std::string Kopftext(const Kartei& k, int32_t nummer) {
+}  // namespace
+
+std::string SpaltenKopftext(const Kartei& k, int32_t nummer) {
     // Die benutzerdefinierte Spalte trägt ihr Muster ohne "%" als Überschrift.
     return nummer == SpalteBenutzerdefiniert ? Ersetzen(k.Optionen.SpaltenNutzerformat, "%", "") : SpaltenName(nummer);
 }
-}  // namespace
+
+std::string SpaltenTag(int32_t nummer) {
+    return std::string(nummer == SpalteBenutzerdefiniert ? "b" : "");  // GCC 12: -Wrestrict-Fehlwarnung
+}
 
 const std::string& SpaltenName(int32_t nummer) {
     static const std::array<std::string, SpaltenAnzahl + 1> namen = [] {
@@ -144,8 +149,8 @@ void SpaltenAnpassen(Kartei& k, Ergebnisliste& liste, bool& fehler) {
         spalten.insert(spalten.begin() + std::ptrdiff_t(stelle), std::move(s));
     }
     for (auto& s : spalten) {
-        s.kopf = Kopftext(k, s.spalte);
-        s.tag = std::string(s.spalte == SpalteBenutzerdefiniert ? "b" : "");  // GCC 12: -Wrestrict-Fehlwarnung
+        s.kopf = SpaltenKopftext(k, s.spalte);
+        s.tag = SpaltenTag(s.spalte);
     }
     liste.spalten = std::move(spalten);
     liste.Geändert();
