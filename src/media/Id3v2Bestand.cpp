@@ -204,7 +204,8 @@ size_t ErweiterterKopf(std::string_view körper, int major, unsigned char flags)
 std::string Kennung22Zu23(std::string_view id22) {
     for (const auto& p : k22Zu23)
         if (id22 == p.alt) return p.neu;
-    return "X" + std::string(id22);
+    std::string versuch(1, 'X');  // Versuchsrahmen beginnen mit X
+    return versuch.append(id22);
 }
 
 void Id3v2BestandLesen(DateiLeser& datei, int64_t position, Id3v2Bestand& b) {
