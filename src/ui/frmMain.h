@@ -79,6 +79,8 @@ private:
     void NichtEingebaut();
     void cmdAuswählen_Click();
     void cmdBeenden_Click();
+    void cmdIndexStatistik_Click();
+    void cmdExportieren_Click();
     void mnu_wählealle_Click();
     void mnu_wählekeine_Click();
     void mnu_wähleumkehren_Click();

@@ -8,6 +8,7 @@
 #include "ui/LinkeSpalte.h"
 #include "ui/SongListe.h"
 #include "ui/Umrechnung.h"
+#include "ui/dialoge/BerichteZeigen.h"
 #include "ui/frmMain.h"
 
 #include <QAction>
@@ -43,7 +44,7 @@ void frmMain::BefehleAnlegen() {
         {&B::cmdIndexErstellen, "cmdIndexErstellen", "Zum Index hinzufügen", &frmMain::cmdIndexErstellen_Click},
         {&B::cmdListeAufräumen, "cmdListeAufräumen", "Index synchronisieren", &frmMain::NichtEingebaut},
         {&B::cmdIndexVerwaltung, "cmdIndexVerwaltung", "Index-Verwaltung", &frmMain::NichtEingebaut},
-        {&B::cmdIndexStatistik, "cmdIndexStatistik", "Index-Statistiken", &frmMain::NichtEingebaut},
+        {&B::cmdIndexStatistik, "cmdIndexStatistik", "Index-Statistiken", &frmMain::cmdIndexStatistik_Click},
         {&B::cmdAutoDJ, "cmdAutoDJ", "AutoDJ", &frmMain::NichtEingebaut},
         {&B::cmdAuswählen, "cmdAuswählen", "Auswählen", &frmMain::cmdAuswählen_Click},
         {&B::cmdEintragAbspielen, "cmdEintragAbspielen", "Abspielen", &frmMain::NichtEingebaut},
@@ -51,7 +52,7 @@ void frmMain::BefehleAnlegen() {
         {&B::cmdEintragAusführen, "cmdEintragAusführen", "Ausführen", &frmMain::NichtEingebaut},
         {&B::cmdEintragAusführenMit, "cmdEintragAusführenMit", "Ausführen mit", &frmMain::NichtEingebaut},
         {&B::cmdMp3TagAnzeigen, "cmdMp3TagAnzeigen", "Datei-Infos", &frmMain::NichtEingebaut},
-        {&B::cmdExportieren, "cmdExportieren", "Export", &frmMain::NichtEingebaut},
+        {&B::cmdExportieren, "cmdExportieren", "Export", &frmMain::cmdExportieren_Click},
         {&B::cmdDateiEntfernen, "cmdDateiEntfernen", "Aus Index entfernen", &frmMain::cmdDateiEntfernen_Click},
         {&B::cmdDateienLöschen, "cmdDateienLöschen", "Löschen", &frmMain::NichtEingebaut},
         {&B::cmdDateienKopierenVerschieben, "cmdDateienKopierenVerschieben", "Kopieren/verschieben",
@@ -185,6 +186,13 @@ void frmMain::NichtEingebaut() {
 }
 
 void frmMain::cmdBeenden_Click() { close(); }
+
+void frmMain::cmdIndexStatistik_Click() { IndexStatistikZeigen(this, k_); }
+
+void frmMain::cmdExportieren_Click() {
+    AuswahlAktualisieren();
+    ExportierenZeigen(this, k_, AusgewählteDateien(), AusgewähltAnzahl());
+}
 
 void frmMain::cmdAuswählen_Click() {
     MenüZustandSetzen(false);

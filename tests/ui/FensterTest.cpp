@@ -176,15 +176,15 @@ void FensterTest::JederBefehlEineAktion() {
         QVERIFY2(aktionen.size() == 1, qPrintable(verweis->objectName()));
         QCOMPARE(aktionen.front()->text(), verweis->text());
     }
-    auto* statistik = w.Kind<QAction>("cmdIndexStatistik");
-    QSignalSpy ausgelöst(statistik, &QAction::triggered);
-    QTest::mouseClick(w.Kind<QLabel>("cmdIndexStatistik"), Qt::LeftButton);
+    auto* autoDJ = w.Kind<QAction>("cmdAutoDJ");
+    QSignalSpy ausgelöst(autoDJ, &QAction::triggered);
+    QTest::mouseClick(w.Kind<QLabel>("cmdAutoDJ"), Qt::LeftButton);
     QCOMPARE(ausgelöst.size(), 1);
     QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht eingebaut."));
     QCOMPARE(w.meldungen.back().schalter, Meldung::Information);
-    statistik->setEnabled(false);  // der Verweis folgt der Aktion
-    QVERIFY(!w.Kind<QLabel>("cmdIndexStatistik")->isEnabled());
-    statistik->setEnabled(true);
+    autoDJ->setEnabled(false);  // der Verweis folgt der Aktion
+    QVERIFY(!w.Kind<QLabel>("cmdAutoDJ")->isEnabled());
+    autoDJ->setEnabled(true);
 
     QSignalSpy löschen(w.Kind<QAction>("cmdSucheLöschen"), &QAction::triggered);
     QVERIFY(Drücken(*w.f, "cmdSucheLöschen"));

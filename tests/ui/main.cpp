@@ -10,6 +10,7 @@ int AnsichtTestAusführen(int argc, char** argv);
 int DialogeTestAusführen(int argc, char** argv);
 int FensterTestAusführen(int argc, char** argv);
 int ListeTestAusführen(int argc, char** argv);
+int BerichteFensterTestAusführen(int argc, char** argv);
 
 int main(int argc, char** argv) {
     QTemporaryDir xdg;
@@ -26,5 +27,6 @@ int main(int argc, char** argv) {
     fehler += FensterTestAusführen(argc, argv);
     fehler += ListeTestAusführen(argc, argv);
     fehler += AnsichtTestAusführen(argc, argv);
+    fehler += BerichteFensterTestAusführen(argc, argv);
     return fehler;
 }
