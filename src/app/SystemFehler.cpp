@@ -26,8 +26,8 @@ std::string SystemFehlerText(int fehler) {
     case ENOMEM: return "Nicht genügend Arbeitsspeicher";
     case EINTR: return "Der Vorgang wurde unterbrochen";
     case EWOULDBLOCK: return "Die Datei ist von einem anderen Programm gesperrt";
-    case ENXIO:
-    case ENODEV: return "Das Gerät ist nicht vorhanden";
+    case ENXIO: return "Das Gerät ist nicht vorhanden";
+    case ENODEV: return "Es ist keine gewöhnliche Datei";
     case ESTALE: return "Die Datei auf dem Netzlaufwerk ist nicht mehr gültig";
     case ENOTCONN:
     case EHOSTDOWN:

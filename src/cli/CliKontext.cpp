@@ -9,6 +9,8 @@ CliKontext::CliKontext(std::string pfad, bool j)
     : indexPfad(std::move(pfad)), ja(j), ui(j), registrierung(KonfigOrdner() + "/klangkartei.conf"),
       k(Dienste{ui, registrierung, spieler, shell, datenträger, uhr, zufall}) {
     k.LetzteSpeicherung = uhr.Jetzt();
+    // Laden, Ändern, Speichern ist ein Vorgang: ein zweiter Aufruf wartet, statt dazwischenzufahren.
+    k.IndexZugriff.SperreHalten = true;
     EinstellungenLesen(k);  // jeder Befehl arbeitet mit den Einstellungen des Benutzers
 }
 

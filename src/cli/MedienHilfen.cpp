@@ -9,6 +9,7 @@
 #include "platform/Verzeichnisse.h"
 #include "settings/Dateitypen.h"
 
+#include <cstdio>
 #include <filesystem>
 
 std::string VollerDateiPfad(const std::string& pfad) {
@@ -17,16 +18,22 @@ std::string VollerDateiPfad(const std::string& pfad) {
     return fehler ? pfad : voll.lexically_normal().string();
 }
 
-bool MedienBefehlVorbereiten(CliKontext& c) {
+IndexLage MedienBefehlVorbereiten(CliKontext& c) {
     // Die Einstellungen liest schon CliKontext. Ein Index wird nur geladen, wenn er genannt ist
     // oder der Standard-Index besteht: ein bloßes "info" legt keinen neuen an.
-    bool geladen = false;
-    if (!c.indexPfad.empty() || DoesExist(StandardIndexPfad())) geladen = IndexFürBefehlLaden(c);
+    IndexLage lage = IndexLage::Keiner;
+    if (!c.indexPfad.empty() || DoesExist(StandardIndexPfad()))
+        lage = IndexFürBefehlLaden(c) ? IndexLage::Geladen : IndexLage::NichtGeladen;
     if (c.k.Optionen.DateitypenLeer) DateitypenVorgabenEinsetzen(c.k.Optionen);
-    return geladen;
+    return lage;
 }
 
-bool IndexEintragAuffrischen(CliKontext& c, const std::string& pfad) {
+bool IndexEintragAuffrischen(CliKontext& c, IndexLage lage, const std::string& pfad) {
+    if (lage == IndexLage::Keiner) return true;
+    if (lage == IndexLage::NichtGeladen) {
+        std::fprintf(stderr, "Der Eintrag von '%s' im Index wurde nicht nachgeführt.\n", pfad.c_str());
+        return false;
+    }
     bool gefunden = false;
     for (int32_t n = 1; n <= c.k.DateiAnzahl; ++n) {
         if (c.k.DateiPfade[n] != pfad) continue;

@@ -1,6 +1,7 @@
 // Der Ablauf einer Speicherung: Ziel prüfen, sperren, fremde Änderungen erkennen, eine eigene
 // temporäre Datei schreiben, auf die Platte bringen und in einem Schritt an die Stelle der alten
 // Datei setzen. Den Inhalt schreibt IndexTextSchreiben.
+#include "app/HalbeDatei.h"
 #include "app/Kartei.h"
 #include "app/Pfade.h"
 #include "app/SystemFehler.h"
@@ -38,8 +39,8 @@ bool ZielPrüfen(Kartei& k, const std::string& ziel, const std::string& pfad) {
     if (art == '-') return true;
     if (art == '!') return NichtSpeicherbar(k, pfad, SystemFehlerText(fehler) + ".");
     if (art != 'f')
-        return NichtSpeicherbar(k, pfad, "Unter diesem Namen steht " + DateiArtText(art) +
-                                             ", keine Indexdatei. Sie wird nicht ersetzt.");
+        return NichtSpeicherbar(
+            k, pfad, "Unter diesem Namen steht " + DateiArtText(art) + ", keine Indexdatei. Sie wird nicht ersetzt.");
     struct stat st;
     // Auch root soll eine schreibgeschützte Indexdatei nicht ersetzen.
     if (::stat(ziel.c_str(), &st) == 0 && (st.st_mode & 0222) == 0)
@@ -137,25 +138,30 @@ bool DateiSpeichern(Kartei& k, const std::string& pfad, bool mitFortschritt) {
     const int fd = ::mkostemp(temp.data(), O_CLOEXEC);
     if (fd < 0) {
         const int fehler = errno;
-        return NichtSpeicherbar(k, pfad, "Im Ordner '" + ordner + "' kann keine temporäre Datei angelegt werden: " +
-                                             SystemFehlerText(fehler) + ".");
+        return NichtSpeicherbar(k, pfad,
+                                "Im Ordner '" + ordner +
+                                    "' kann keine temporäre Datei angelegt werden: " + SystemFehlerText(fehler) + ".");
     }
+    HalbeDateiMerken(temp.c_str());
     ::flock(fd, LOCK_EX);  // wer nach dem Umbenennen wartet, wartet auf die neue Datei
     RechteÜbernehmen(fd, ziel);
     const int fehler = TempDateiFüllen(k, fd, mitFortschritt);
     if (fehler != 0) {
         ::close(fd);
         ::unlink(temp.c_str());
+        HalbeDateiFertig();
         if (fehler < 0) FortschrittZeigenEnde(k);
         return fehler < 0 ? false : Fehlermeldung(k, fehler);
     }
     FortschrittZeigenEnde(k);
 
     // rename ersetzt die alte Datei in einem Schritt: es gibt keinen Augenblick ohne Index.
-    if (::rename(temp.c_str(), ziel.c_str()) != 0) {
-        const int grund = errno;
+    const bool ersetzt = ::rename(temp.c_str(), ziel.c_str()) == 0;
+    const int grund = errno;
+    if (!ersetzt) ::unlink(temp.c_str());
+    HalbeDateiFertig();
+    if (!ersetzt) {
         ::close(fd);
-        ::unlink(temp.c_str());
         if (grund == EISDIR || grund == ENOTEMPTY || grund == EEXIST || grund == EBUSY)
             return NichtSpeicherbar(k, pfad, "Die bestehende Datei konnte nicht überschrieben werden.");
         return Fehlermeldung(k, grund);

@@ -144,7 +144,8 @@ bool IndexDateiSperren(Kartei& k, const std::string& ziel, const std::string& pf
         }
         // ergebnis -1: das Dateisystem kennt keine Sperren (manche Netzlaufwerke); dann ohne.
         struct stat offen, jetzt;
-        if (ergebnis < 0 || (::fstat(fd, &offen) == 0 && ::stat(ziel.c_str(), &jetzt) == 0 && GleicheDatei(offen, jetzt))) {
+        if (ergebnis < 0 ||
+            (::fstat(fd, &offen) == 0 && ::stat(ziel.c_str(), &jetzt) == 0 && GleicheDatei(offen, jetzt))) {
             if (fensterGeöffnet) FortschrittZeigenEnde(k);
             sperre.Übernehmen(fd, exklusiv);
             return true;

@@ -39,10 +39,10 @@ private:
 };
 
 struct IndexDateiZugriff {
-    IndexDateiStand geladen;      // Stand der Datei beim letzten Laden bzw. Speichern
-    IndexSperre sperre;           // eine über den Ladevorgang hinaus gehaltene Sperre
-    bool SperreHalten = false;    // Kommandozeile: die Sperre vom Laden bis zum Ende halten
-    bool NichtsGeladen = false;   // Laden abgelehnt oder unmöglich: dann wird nichts gespeichert
+    IndexDateiStand geladen;     // Stand der Datei beim letzten Laden bzw. Speichern
+    IndexSperre sperre;          // eine über den Ladevorgang hinaus gehaltene Sperre
+    bool SperreHalten = false;   // Kommandozeile: die Sperre vom Laden bis zum Ende halten
+    bool NichtsGeladen = false;  // Laden abgelehnt oder unmöglich: dann wird nichts gespeichert
 };
 
 // Löst Verknüpfungen auf (auch eine, deren Ziel noch fehlt); sonst pfad selbst.
@@ -60,5 +60,4 @@ IndexDateiStand IndexDateiStandLesen(const std::string& ziel);
 // Sperrt die Datei unter ziel (geteilt zum Lesen, exklusiv zum Schreiben). Wartet, solange ein
 // anderes Programm sie hält: mit Fortschrittsfenster und "Abbrechen", höchstens eine Minute.
 // false: abgebrochen, Zeit um oder Fehler (Meldung gezeigt, außer bei Abbruch).
-bool IndexDateiSperren(Kartei& k, const std::string& ziel, const std::string& pfad, bool exklusiv,
-                       IndexSperre& sperre);
+bool IndexDateiSperren(Kartei& k, const std::string& ziel, const std::string& pfad, bool exklusiv, IndexSperre& sperre);
