@@ -6,7 +6,7 @@
 #include "intake/Hinzufuegen.h"
 #include "intake/Scanner.h"
 #include "platform/LinuxDatentraeger.h"
-#include "settings/Dateitypen.h"
+#include "index/Dateitypen.h"
 #include "shell/Fortschritt.h"
 #include "MpegSammlung.h"
 #include "support/Attrappen.h"

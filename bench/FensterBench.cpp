@@ -1,7 +1,7 @@
 // Die Ergebnisliste im Fenster mit 100.000 und 1.000.000 Einträgen (offscreen): Abgleich nach
 // einer Suche, Zeichnen einer Seite, Rollen, Alle wählen, Auswahl der Person zurückschreiben.
 #include "app/Kartei.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 #include "search/Hauptfenster.h"
 #include "support/Attrappen.h"
 #include "support/IndexGenerator.h"

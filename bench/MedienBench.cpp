@@ -3,7 +3,7 @@
 #include "app/Kartei.h"
 #include "media/MedienInfos.h"
 #include "platform/LinuxDatentraeger.h"
-#include "settings/Dateitypen.h"
+#include "index/Dateitypen.h"
 #include "MpegSammlung.h"
 #include "support/Attrappen.h"
 #include "support/MpegDaten.h"

@@ -2,6 +2,7 @@
 #include "cli/Befehle.h"
 #include "cli/IndexLaden.h"
 #include "index/IndexFeld.h"
+#include "cli/AuswahlArgumente.h"
 
 #include <cstdio>
 
@@ -16,10 +17,8 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
     int32_t nummer = 0;
     if (frei.size() != 2 || !NummerLesen(frei[0], nummer)) return GebrauchsFehler("Aufruf: field N FELD [--sortform]");
     if (!IndexFürBefehlLaden(c)) return 1;
-    if (nummer < 1 || nummer > c.k.DateiAnzahl) {
-        std::fprintf(stderr, "Den Eintrag %d gibt es nicht; der Index hat %d Einträge.\n", nummer, c.k.DateiAnzahl);
-        return 1;
-    }
+    std::vector<int32_t> gewählt;
+    if (!AuswahlAnwenden(c, EintragsAuswahl{{nummer}}, gewählt)) return 1;
     std::string wert;
     int16_t art = 0;
     if (!IndexFeldZurückgeben(c.k, nummer, frei[1], sortierForm ? "1" : "", wert, art)) {

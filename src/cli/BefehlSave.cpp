@@ -12,8 +12,7 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
     }
     if (!IndexFürBefehlLaden(c)) return 1;
     if (ziel.empty()) ziel = c.k.Dateiname;
-    const bool mitFortschritt = c.k.E.StartBildschirm == 1 && c.k.E.StartBildschirmNichtBeiSpeichern != 1;
-    return DateiSpeichern(c.k, ziel, mitFortschritt) ? 0 : 1;
+    return IndexSpeichern(c.k, ziel) ? 0 : 1;
 }
 }  // namespace
 

@@ -14,11 +14,6 @@
 namespace {
 void Meldung(const std::string& text) { std::fprintf(stderr, "%s\n", text.c_str()); }
 
-// Die Liste, wie sie gespeichert würde: leer, wenn sie als leer markiert ist.
-const EinsBasiert<std::string>* GespeicherteListe(const Kartei& k, const EinstellungsListe& l) {
-    return k.E.*l.zustand == 1 ? nullptr : &(k.E.*l.liste);
-}
-
 void ListeAusgeben(const Kartei& k, const EinstellungsListe& l) {
     const auto* liste = GespeicherteListe(k, l);
     if (!liste) return;
@@ -54,23 +49,6 @@ int Lesen(const Kartei& k, const std::string& name) {
     return 1;
 }
 
-// Ein Listeneintrag: vorhandene Nummern ersetzen, die nächste hängt an. Die Liste gilt danach.
-bool ListenwertSetzen(Kartei& k, const ListenWertName& w, const std::string& wert) {
-    auto& liste = k.E.*w.liste->liste;
-    int16_t& zustand = k.E.*w.liste->zustand;
-    if (zustand == 1) liste.ReDim(0);  // als leer markiert: der leere Platz zählt nicht
-    if (w.nummer > liste.UBound() + 1) {
-        Meldung("Die Liste '" + std::string(w.liste->name) + "' hat " + ZahlText(liste.UBound()) +
-                " Einträge; setzen lässt sich nur Nummer 1 bis " + ZahlText(liste.UBound() + 1) + ".");
-        if (zustand == 1) liste.ReDim(1);
-        return false;
-    }
-    if (w.nummer > liste.UBound()) liste.Anhängen(wert);
-    else liste[w.nummer] = wert;
-    zustand = 0;
-    return true;
-}
-
 int Setzen(CliKontext& c, const std::string& name, const std::string& wert) {
     std::string fehler;
     if (const auto* e = EinstellungFinden(name)) {
@@ -79,7 +57,10 @@ int Setzen(CliKontext& c, const std::string& name, const std::string& wert) {
             return 1;
         }
     } else if (auto w = ListenWertFinden(name)) {
-        if (!ListenwertSetzen(c.k, *w, wert)) return 1;
+        if (!ListenWertSetzen(c.k, *w, wert, fehler)) {
+            Meldung(fehler);
+            return 1;
+        }
     } else {
         Meldung("Unbekannte Einstellung '" + name + "'.");
         return 1;
@@ -89,7 +70,7 @@ int Setzen(CliKontext& c, const std::string& name, const std::string& wert) {
 
 int Speichern(CliKontext& c) {
     if (EinstellungenSpeichern(c.k)) return 0;
-    Meldung("Die Einstellungen konnten nicht in '" + c.registrierung.Dateipfad() + "' gespeichert werden.");
+    Meldung("Die Einstellungen konnten nicht in '" + c.dienste.registrierung.Dateipfad() + "' gespeichert werden.");
     return 1;
 }
 

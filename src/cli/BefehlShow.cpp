@@ -1,5 +1,6 @@
-// show: die Einträge des Index mit allen Feldern, oder nur ihre Zahl.
+// show: die gewählten Einträge mit allen Feldern, oder nur ihre Zahl.
 #include "app/DateiInfo.h"
+#include "cli/AuswahlArgumente.h"
 #include "cli/Befehle.h"
 #include "cli/DatensatzAusgabe.h"
 #include "cli/IndexLaden.h"
@@ -8,31 +9,25 @@
 
 namespace {
 int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
+    EintragsAuswahl auswahl;
+    std::vector<std::string> rest;
+    if (const std::string fehler = AuswahlLesen(argumente, auswahl, rest); !fehler.empty())
+        return GebrauchsFehler(fehler);
     bool nurAnzahl = false;
-    int32_t eintrag = 0;
-    for (size_t i = 0; i < argumente.size(); ++i) {
-        if (argumente[i] == "--count") {
-            nurAnzahl = true;
-        } else if (argumente[i] == "--entry") {
-            if (++i >= argumente.size() || !NummerLesen(argumente[i], eintrag))
-                return GebrauchsFehler("--entry braucht eine Eintragsnummer.");
-        } else {
-            return GebrauchsFehler("show: unbekanntes Argument '" + argumente[i] + "'.");
-        }
+    for (const auto& a : rest) {
+        if (a != "--count") return GebrauchsFehler("show: unbekanntes Argument '" + a + "'.");
+        nurAnzahl = true;
     }
     if (!IndexFürBefehlLaden(c)) return 1;
-    const Kartei& k = c.k;
+    std::vector<int32_t> gewählt;
+    if (!AuswahlAnwenden(c, auswahl, gewählt)) return 1;
     if (nurAnzahl) {
-        std::printf("DateiAnzahl=%d\n", k.DateiAnzahl);
+        std::printf("DateiAnzahl=%zu\n", gewählt.size());
         return 0;
     }
-    if (eintrag != 0 && (eintrag < 1 || eintrag > k.DateiAnzahl)) {
-        std::fprintf(stderr, "Den Eintrag %d gibt es nicht; der Index hat %d Einträge.\n", eintrag, k.DateiAnzahl);
-        return 1;
-    }
-    const int32_t von = eintrag ? eintrag : 1, bis = eintrag ? eintrag : k.DateiAnzahl;
+    const Kartei& k = c.k;
     std::string aus;
-    for (int32_t n = von; n <= bis; ++n) {
+    for (const int32_t n : gewählt) {
         DatensatzBlockAnhängen(aus, n, k.DateiPfade[n], k.DateiDaten[n]);
         if (aus.size() > (1u << 20)) {  // in großen Stücken ausgeben
             std::fwrite(aus.data(), 1, aus.size(), stdout);
@@ -44,5 +39,8 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
 }
 }  // namespace
 
-extern const Befehl BefehlShow = {"show", "show [--entry N] [--count]",
-                                  "Einträge mit allen Feldern zeigen (Name=Wert), oder ihre Zahl", Ausführen};
+extern const Befehl BefehlShow = {"show", "show [AUSWAHL] [--count]",
+                                  "Die gewählten Einträge mit allen Feldern zeigen (Name=Wert), oder ihre Zahl; "
+                                  "AUSWAHL: --entry N (mehrfach) oder --search TEXT [--field FELD] [--not] oder "
+                                  "--row FELD:BEDINGUNG:TEXT (mehrfach), ohne: alle",
+                                  Ausführen};

@@ -1,25 +1,14 @@
 // tag und untag: Tag-Felder einer Datei setzen und schreiben, oder einen Tag entfernen.
 #include "cli/Befehle.h"
 #include "cli/MedienHilfen.h"
-#include "intake/DateiFormat.h"
 #include "media/Id3v1.h"
 #include "media/Id3v2Schreiben.h"
 #include "media/MedienInfos.h"
+#include "tags/TagDateien.h"
 
 #include <cstdio>
 
 namespace {
-bool BeginntMit(const std::string& text, const char* anfang) { return text.rfind(anfang, 0) == 0; }
-
-// Die Frage des Tag-Editors vor dem Speichern in eine Datei, die keine Tags erwartet.
-bool TypErlaubtTags(CliKontext& c, const std::string& pfad) {
-    if (DateiFormatUnterstützt(c.k, pfad, true, false, false, false)) return true;
-    return c.k.ui.MeldungZeigen("Sie sollten ID3-TAGs nur in Dateien des Typs 'MPEG Audio/AAC' speichern.\n"
-                                "Der Datei-Typ konnte anhand der Dateiendung nicht als passend erkannt werden.\n"
-                                "Möchten Sie die Datei trotzdem speichern (nicht empfohlen)?",
-                                Meldung::JaNeinAusruf) == Meldung::Ja;
-}
-
 int TagAusführen(CliKontext& c, const std::vector<std::string>& argumente) {
     if (argumente.size() < 2) return GebrauchsFehler("tag braucht eine Datei und mindestens ein Feld Name=Wert.");
     const IndexLage index = MedienBefehlVorbereiten(c);
@@ -32,11 +21,11 @@ int TagAusführen(CliKontext& c, const std::vector<std::string>& argumente) {
         if (gleich == std::string::npos) return GebrauchsFehler("tag: '" + argumente[i] + "' ist nicht Name=Wert.");
         if (!DateiInfoFeldSetzen(d, name, argumente[i].substr(gleich + 1)))
             return GebrauchsFehler("tag: unbekanntes Feld oder ungültiger Wert in '" + argumente[i] + "'.");
-        v1 = v1 || BeginntMit(name, "Mp3_ID3v1_");
-        v2 = v2 || BeginntMit(name, "Mp3_ID3v2_");
+        v1 = v1 || TagDesFeldes(name) == 1;
+        v2 = v2 || TagDesFeldes(name) == 2;
     }
     if (!v1 && !v2) return 0;  // kein Tag-Feld genannt: nichts zu schreiben
-    if (!TypErlaubtTags(c, pfad)) return 1;
+    if (!TagDateitypFragen(c.k, pfad)) return 1;
 
     int rückgabe = 0;
     std::string fehler;
@@ -48,7 +37,7 @@ int TagAusführen(CliKontext& c, const std::vector<std::string>& argumente) {
         std::fprintf(stderr, "%s\n", fehler.c_str());
         rückgabe = 1;
     }
-    if (!IndexEintragAuffrischen(c, index, pfad)) rückgabe = 1;
+    if (!IndexNachführen(c, index, pfad)) rückgabe = 1;
     return rückgabe;
 }
 
@@ -71,7 +60,7 @@ int UntagAusführen(CliKontext& c, const std::vector<std::string>& argumente) {
     DateiRest rest;
     const bool gelungen =
         version == "--v1" ? TAGEntfernen(c.k, arbeit, pfad) : TAGEntfernenV2(c.k, pfad, 0, false, rest);
-    if (gelungen && !IndexEintragAuffrischen(c, index, pfad)) return 1;
+    if (gelungen && !IndexNachführen(c, index, pfad)) return 1;
     return gelungen ? 0 : 1;
 }
 }  // namespace

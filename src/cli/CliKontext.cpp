@@ -1,17 +1,14 @@
 #include "cli/CliKontext.h"
 
-#include "platform/Verzeichnisse.h"
-#include "settings/EinstellungenSpeicher.h"
+#include "app/Start.h"
 
 #include <cstdio>
 
-CliKontext::CliKontext(std::string pfad, bool j)
-    : indexPfad(std::move(pfad)), ja(j), ui(j), registrierung(KonfigOrdner() + "/klangkartei.conf"),
-      k(Dienste{ui, registrierung, spieler, shell, datenträger, uhr, zufall}) {
-    k.LetzteSpeicherung = uhr.Jetzt();
+CliKontext::CliKontext(std::string pfad, bool j) : indexPfad(std::move(pfad)), ja(j), ui(j), k(dienste.Mit(ui)) {
     // Laden, Ändern, Speichern ist ein Vorgang: ein zweiter Aufruf wartet, statt dazwischenzufahren.
     k.IndexZugriff.SperreHalten = true;
-    EinstellungenLesen(k);  // jeder Befehl arbeitet mit den Einstellungen des Benutzers
+    // Wie beim Fensterstart, nur ohne Index auf der Zeile: den nennt --index.
+    StartVorbereiten(k, {});
 }
 
 int GebrauchsFehler(const std::string& text) {

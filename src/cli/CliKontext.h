@@ -2,12 +2,8 @@
 // Alles, was ein Unterbefehl braucht: Dienste, Kartei und die allgemeinen Schalter.
 #include "app/Kartei.h"
 #include "cli/CliOberflaeche.h"
-#include "platform/KonfigRegistrierung.h"
-#include "platform/LinuxDatentraeger.h"
-#include "platform/LinuxShell.h"
-#include "platform/SystemDienste.h"
+#include "platform/LinuxDienste.h"
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -17,12 +13,7 @@ struct CliKontext {
     std::string indexPfad;  // leer: der Standard-Index
     bool ja;
     CliOberfläche ui;
-    KonfigRegistrierung registrierung;
-    KeinSpielerfenster spieler;
-    LinuxShell shell;
-    LinuxDatenträger datenträger;
-    SystemUhr uhr;
-    SystemZufall zufall;
+    LinuxDienste dienste;
     Kartei k;
 };
 

@@ -1,17 +1,13 @@
 #include "cli/IndexLaden.h"
 
 #include "app/IndexOeffnen.h"
-#include "platform/Verzeichnisse.h"
+#include "platform/LinuxDienste.h"
 
 #include <charconv>
 #include <cstdio>
 
 bool IndexFürBefehlLaden(CliKontext& c) {
-    std::string standard;
-    if (c.indexPfad.empty()) {
-        OrdnerAnlegen(DatenOrdner());
-        standard = StandardIndexPfad();
-    }
+    const std::string standard = c.indexPfad.empty() ? StandardIndexBereitstellen() : std::string();
     c.k.Dateiname = c.indexPfad;
     if (IndexÖffnen(c.k, standard)) return true;
     std::fprintf(stderr, "Die Indexdatei '%s' wurde nicht geladen.\n", c.k.Dateiname.c_str());

@@ -1,13 +1,11 @@
 #include "cli/MedienHilfen.h"
 
-#include "cli/CliKontext.h"
 #include "app/Pfade.h"
-#include "app/Tabelle.h"
+#include "cli/CliKontext.h"
 #include "cli/IndexLaden.h"
-#include "index/IndexDatei.h"
-#include "media/MedienInfos.h"
+#include "index/Dateitypen.h"
 #include "platform/Verzeichnisse.h"
-#include "settings/Dateitypen.h"
+#include "tags/TagDateien.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -24,22 +22,13 @@ IndexLage MedienBefehlVorbereiten(CliKontext& c) {
     IndexLage lage = IndexLage::Keiner;
     if (!c.indexPfad.empty() || DoesExist(StandardIndexPfad()))
         lage = IndexFürBefehlLaden(c) ? IndexLage::Geladen : IndexLage::NichtGeladen;
-    if (c.k.Optionen.DateitypenLeer) DateitypenVorgabenEinsetzen(c.k.Optionen);
+    DateitypenVorgabenWennLeer(c.k.Optionen);
     return lage;
 }
 
-bool IndexEintragAuffrischen(CliKontext& c, IndexLage lage, const std::string& pfad) {
+bool IndexNachführen(CliKontext& c, IndexLage lage, const std::string& pfad) {
     if (lage == IndexLage::Keiner) return true;
-    if (lage == IndexLage::NichtGeladen) {
-        std::fprintf(stderr, "Der Eintrag von '%s' im Index wurde nicht nachgeführt.\n", pfad.c_str());
-        return false;
-    }
-    bool gefunden = false;
-    for (int32_t n = 1; n <= c.k.DateiAnzahl; ++n) {
-        if (c.k.DateiPfade[n] != pfad) continue;
-        c.k.DateiDaten[n] = MedienInfosLesen(c.k, pfad, c.k.DateiDaten[n], "11", false, "1", "1");
-        DateiGeändertSetzen(c.k);
-        gefunden = true;
-    }
-    return !gefunden || DateiSpeichern(c.k, c.k.Dateiname, false);
+    if (lage == IndexLage::Geladen) return IndexEintragAuffrischen(c.k, pfad);
+    std::fprintf(stderr, "Der Eintrag von '%s' im Index wurde nicht nachgeführt.\n", pfad.c_str());
+    return false;
 }

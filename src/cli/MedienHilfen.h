@@ -10,6 +10,6 @@ enum class IndexLage { Keiner, Geladen, NichtGeladen };
 // Lädt den Index (--index oder einen bestehenden Standard-Index) für seine Dateitypen; ohne
 // Index gelten die 13 Vorgaben. NichtGeladen: es gibt einen, aber er ließ sich nicht laden.
 IndexLage MedienBefehlVorbereiten(CliKontext& c);
-// Steht pfad im geladenen Index, wird sein Eintrag neu gelesen und der Index gespeichert.
-// false, wenn das Speichern scheitert oder der Index nicht geladen werden konnte (Meldung).
-bool IndexEintragAuffrischen(CliKontext& c, IndexLage lage, const std::string& pfad);
+// Nach einer Tag-Schreibung den Eintrag im Index nachführen. false, wenn das Speichern scheitert
+// oder der Index nicht geladen werden konnte (Meldung auf stderr).
+bool IndexNachführen(CliKontext& c, IndexLage lage, const std::string& pfad);

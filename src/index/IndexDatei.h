@@ -18,6 +18,12 @@ bool DateiLaden(Kartei& k, const std::string& pfad);
 // Besitzer bleiben. true, wenn die neue Datei unter pfad steht; sonst hat eine Meldung den Grund
 // genannt (bei Abbruch keine), und die alte Datei ist unberührt. Ohne geladenen Index: nichts.
 bool DateiSpeichern(Kartei& k, const std::string& pfad, bool mitFortschritt);
+// Ob ein Speichern den Fortschritt zeigt: mit Startbildschirm, außer er ist beim Speichern abbestellt.
+bool SpeichernMitFortschritt(const Kartei& k);
+// DateiSpeichern nach pfad, der Fortschritt nach den Einstellungen.
+bool IndexSpeichern(Kartei& k, const std::string& pfad);
+// Speichert den Index unter Dateiname, wenn er geändert ist; true auch, wenn nichts zu tun war.
+bool ÄnderungenSpeichern(Kartei& k);
 
 // Der Inhalt der Indexdatei in den offenen Deskriptor fd. Ergebnis 0 oder errno; abgebrochen,
 // wenn die Person im Fortschrittsfenster abgebrochen hat.

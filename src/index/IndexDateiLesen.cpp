@@ -4,14 +4,14 @@
 #include "app/Tabelle.h"
 #include "app/Texte.h"
 #include "app/Zahlen.h"
-#include "index/BlockLeser.h"
+#include "app/BlockLeser.h"
 #include "index/IndexDatei.h"
 #include "index/IndexZeilen.h"
 #include "index/IndexZugriff.h"
 #include "index/Spalten.h"
 #include "intake/NichtVerfuegbar.h"
 #include "media/MedienInfos.h"
-#include "settings/Dateitypen.h"
+#include "index/Dateitypen.h"
 #include "shell/Fortschritt.h"
 
 #include <cerrno>

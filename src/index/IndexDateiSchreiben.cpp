@@ -1,3 +1,4 @@
+#include "app/FeldTabelle.h"
 #include "app/Kartei.h"
 #include "app/Pfade.h"
 #include "app/Tabelle.h"
@@ -39,29 +40,34 @@ void WertAnhängen(std::string& aus, std::string_view wert) {
 struct ZahlText {
     char zeichen[24];
     std::string_view text;
-    explicit ZahlText(int64_t wert) {
+    explicit ZahlText(int64_t wert) { Setzen(wert); }
+    ZahlText() = default;
+    void Setzen(int64_t wert) {
         auto [ende, fehler] = std::to_chars(zeichen, zeichen + sizeof zeichen, wert);
         (void)fehler;
         text = std::string_view(zeichen, size_t(ende - zeichen));
     }
 };
 
+// Der Wert auf Platz 2..40 in der Form der Indexdatei; Zahlen landen in zahl.
+std::string_view FeldWert(const DateiFeld& f, const DateiInfo& d, ZahlText& zahl) {
+    switch (f.form) {
+    case FeldForm::Zahl:
+    case FeldForm::Wahrheit: zahl.Setzen(f.Zahl(d)); return zahl.text;
+    case FeldForm::Genre:
+        if (f.Text(d).empty()) return {};
+        zahl.Setzen(static_cast<unsigned char>(f.Text(d)[0]));
+        return zahl.text;
+    default: return f.Text(d);
+    }
+}
+
 void DatensatzZeile(std::string& aus, const std::string& pfad, const DateiInfo& d) {
-    const ZahlText größe(d.Datei_Größe), bitrate(d.Header_Bitrate), dauer(d.Header_Dauer), frequenz(d.Header_Frequenz),
-        frames(d.Header_Frames), vbr(BoolAlsZahl(d.Header_VBR)), typ(d.Datei_Typ), anzahl(d.Datei_AngefordertAnzahl),
-        tagGröße(d.Mp3_ID3v2_TAGGröße);
-    const std::string genre = GenreAlsZahl(d.Mp3_ID3v1_Genre);
-    const std::array<std::string_view, 41> wert = {
-        "", pfad, d.Mp3_ID3v1_Album, d.Mp3_ID3v1_Interpret, d.Mp3_ID3v1_Kommentar, genre, d.Mp3_ID3v1_Titel,
-        d.Mp3_ID3v1_Track, d.Mp3_ID3v1_Jahr, größe.text, d.Datei_Wechselmedium, bitrate.text, dauer.text, frequenz.text,
-        frames.text, vbr.text, d.Datei_HinzugefügtAm, typ.text, d.Header_Modus, anzahl.text,
-        d.Datei_AngefordertGespieltAm,
-        // ID3v2
-        d.Mp3_ID3v2_PCNT, d.Mp3_ID3v2_TALB, d.Mp3_ID3v2_TCOP, d.Mp3_ID3v2_TENC, d.Mp3_ID3v2_TCON, d.Mp3_ID3v2_TPUB,
-        d.Mp3_ID3v2_TPE1, d.Mp3_ID3v2_TYER, d.Mp3_ID3v2_COMM, d.Mp3_ID3v2_TLEN, d.Mp3_ID3v2_WXXX, d.Mp3_ID3v2_TMED,
-        d.Mp3_ID3v2_TSSE, d.Mp3_ID3v2_TCOM, d.Mp3_ID3v2_TLAN, tagGröße.text, d.Mp3_ID3v2_Version, d.Mp3_ID3v2_TRCK,
-        d.Mp3_ID3v2_TOPE, d.Mp3_ID3v2_TIT2};
     const int felder = d.Mp3_ID3v2_Status == 1 ? 40 : 20;
+    std::array<ZahlText, 41> zahlen;
+    std::array<std::string_view, 41> wert;
+    wert[1] = pfad;
+    for (int i = 2; i <= felder; ++i) wert[size_t(i)] = FeldWert(*DateiFeldFürPlatz(i), d, zahlen[size_t(i)]);
     aus.append("#TAG:");
     for (int i = 1; i <= felder; ++i) {
         if (i > 1) aus.push_back('/');

@@ -1,6 +1,7 @@
 #include "index/IndexFeld.h"
 
 #include "app/Datum.h"
+#include "app/FeldTabelle.h"
 #include "app/Kartei.h"
 #include "app/Pfade.h"
 #include "app/Zahlen.h"
@@ -55,28 +56,9 @@ int16_t Art(K kennung) {
     }
 }
 
-// Felder des ID3v1-Tags: nur mit Status 1.
-const std::string* V1Feld(const DateiInfo& d, K kennung) {
-    switch (kennung) {
-    case K::Interpret: return &d.Mp3_ID3v1_Interpret;
-    case K::Titel: return &d.Mp3_ID3v1_Titel;
-    case K::Album: return &d.Mp3_ID3v1_Album;
-    case K::Jahr: return &d.Mp3_ID3v1_Jahr;
-    case K::Kommentar: return &d.Mp3_ID3v1_Kommentar;
-    case K::Track: return &d.Mp3_ID3v1_Track;
-    default: return nullptr;
-    }
-}
-// Felder des ID3v2-Tags: nur mit Status 1.
-const std::string* V2Feld(const DateiInfo& d, K kennung) {
-    switch (kennung) {
-    case K::InterpretV2: return &d.Mp3_ID3v2_TPE1;
-    case K::TitelV2: return &d.Mp3_ID3v2_TIT2;
-    case K::AlbumV2: return &d.Mp3_ID3v2_TALB;
-    case K::JahrV2: return &d.Mp3_ID3v2_TYER;
-    case K::KommentarV2: return &d.Mp3_ID3v2_COMM;
-    default: return nullptr;
-    }
+// Der Text des Feldes, das die Spalte zeigt (Interpret, Titel, … und ihre ID3v2-Gegenstücke).
+const std::string& SpaltenText(const DateiInfo& d, K kennung) {
+    return DateiFeldFürSpalte(static_cast<int32_t>(kennung))->Text(d);
 }
 
 void Standardsuche(std::string& e, const DateiInfo& d, const std::string& pfad) {
@@ -174,10 +156,10 @@ bool IndexFeldZurückgeben(const Kartei& k, int32_t nummer, const IndexFeld& fel
     case K::Jahr:
     case K::Kommentar:
     case K::Track:
-        if (tag1) ergebnis.assign(*V1Feld(d, feld.kennung));
+        if (tag1) ergebnis.assign(SpaltenText(d, feld.kennung));
         break;
     case K::Titelnummer:
-        if (tag1) TrackSetzen(ergebnis, d.Mp3_ID3v1_Track);
+        if (tag1) TrackSetzen(ergebnis, SpaltenText(d, K::Track));
         break;
     case K::Genre:
         // Code hinter der Tabelle (255 = kein Genre) gibt einen leeren Namen.
@@ -189,9 +171,9 @@ bool IndexFeldZurückgeben(const Kartei& k, int32_t nummer, const IndexFeld& fel
     case K::Dauer:
     case K::Frequenz:
     case K::Frames: TechnikFeld(ergebnis, d, feld.kennung); break;
-    case K::Wechselmedium: ergebnis.assign(d.Datei_Wechselmedium); break;
-    case K::HinzufügeDatum: DatumSetzen(ergebnis, d.Datei_HinzugefügtAm, sortierForm, false); break;
-    case K::AbspielDatum: DatumSetzen(ergebnis, d.Datei_AngefordertGespieltAm, sortierForm, true); break;
+    case K::Wechselmedium: ergebnis.assign(SpaltenText(d, K::Wechselmedium)); break;
+    case K::HinzufügeDatum: DatumSetzen(ergebnis, SpaltenText(d, K::HinzufügeDatum), sortierForm, false); break;
+    case K::AbspielDatum: DatumSetzen(ergebnis, SpaltenText(d, K::AbspielDatum), sortierForm, true); break;
     case K::AbspielHäufigkeit: ZahlSetzen(ergebnis, d.Datei_AngefordertAnzahl); break;
     case K::Benutzerdefiniert:
         if (!k.Optionen.SpaltenNutzerformat.empty())
@@ -203,10 +185,10 @@ bool IndexFeldZurückgeben(const Kartei& k, int32_t nummer, const IndexFeld& fel
     case K::AlbumV2:
     case K::JahrV2:
     case K::KommentarV2:
-        if (tag2) ergebnis.assign(*V2Feld(d, feld.kennung));
+        if (tag2) ergebnis.assign(SpaltenText(d, feld.kennung));
         break;
     case K::TrackV2:
-        if (tag2) TrackSetzen(ergebnis, d.Mp3_ID3v2_TRCK);
+        if (tag2) TrackSetzen(ergebnis, SpaltenText(d, K::TrackV2));
         break;
     case K::GenreV2:
         if (tag2) {

@@ -1,5 +1,6 @@
 #include "app/DateiInfo.h"
 #include "app/Datum.h"
+#include "app/FeldTabelle.h"
 #include "app/Texte.h"
 #include "app/Trace.h"
 #include "app/Zahlen.h"
@@ -10,60 +11,10 @@
 #include <limits>
 
 namespace {
-// Die Textfelder in der Reihenfolge der Datensatzzeile; nullptr: Feld mit eigener Regel.
-using Text = std::string DateiInfo::*;
-constexpr Text kTextFeld[IndexGrößenPlätze] = {
-    nullptr,  // 0 gibt es nicht
-    nullptr,
-    &DateiInfo::Mp3_ID3v1_Album,
-    &DateiInfo::Mp3_ID3v1_Interpret,
-    &DateiInfo::Mp3_ID3v1_Kommentar,
-    nullptr,
-    &DateiInfo::Mp3_ID3v1_Titel,
-    &DateiInfo::Mp3_ID3v1_Track,
-    &DateiInfo::Mp3_ID3v1_Jahr,
-    nullptr,
-    &DateiInfo::Datei_Wechselmedium,
-    nullptr,
-    nullptr,
-    nullptr,
-    nullptr,
-    nullptr,
-    nullptr,
-    nullptr,
-    &DateiInfo::Header_Modus,
-    nullptr,
-    nullptr,
-    &DateiInfo::Mp3_ID3v2_PCNT,
-    &DateiInfo::Mp3_ID3v2_TALB,
-    &DateiInfo::Mp3_ID3v2_TCOP,
-    &DateiInfo::Mp3_ID3v2_TENC,
-    &DateiInfo::Mp3_ID3v2_TCON,
-    &DateiInfo::Mp3_ID3v2_TPUB,
-    &DateiInfo::Mp3_ID3v2_TPE1,
-    &DateiInfo::Mp3_ID3v2_TYER,
-    &DateiInfo::Mp3_ID3v2_COMM,
-    &DateiInfo::Mp3_ID3v2_TLEN,
-    &DateiInfo::Mp3_ID3v2_WXXX,
-    &DateiInfo::Mp3_ID3v2_TMED,
-    &DateiInfo::Mp3_ID3v2_TSSE,
-    &DateiInfo::Mp3_ID3v2_TCOM,
-    &DateiInfo::Mp3_ID3v2_TLAN,
-    nullptr,
-    &DateiInfo::Mp3_ID3v2_Version,
-    &DateiInfo::Mp3_ID3v2_TRCK,
-    &DateiInfo::Mp3_ID3v2_TOPE,
-    &DateiInfo::Mp3_ID3v2_TIT2,
-};
-
 template <typename T> void GanzzahlFeld(T& ziel, std::string_view wert) {
     int32_t z;
     if (LongLesen(wert, z) && z >= std::numeric_limits<T>::min() && z <= std::numeric_limits<T>::max())
         ziel = static_cast<T>(z);
-}
-
-void DatumFeld(std::string& ziel, std::string_view wert) {
-    if (IstDatum(wert)) ziel.assign(wert);
 }
 
 // utf8: der Wert ist schon als gültiges UTF-8 bekannt (die Prüfung lief einmal für die ganze Zeile).
@@ -77,30 +28,27 @@ bool IstFolgebyte(char z) { return (static_cast<unsigned char>(z) & 0xC0) == 0x8
 void FeldLesen(int32_t feld, std::string_view wert, bool utf8, std::string& pfad, DateiInfo& d) {
     if (feld >= 2 && feld <= 8) d.Mp3_ID3v1_Status = 1;
     if (feld >= 21) d.Mp3_ID3v2_Status = 1;
-    if (Text t = kTextFeld[feld]) {
-        TextSetzen(d.*t, wert, utf8);
+    if (feld == 1) {
+        TextSetzen(pfad, wert, utf8);
         return;
     }
+    const DateiFeld* f = DateiFeldFürPlatz(feld);
+    if (!f) return;
     int32_t z;
-    switch (feld) {
-    case 1: TextSetzen(pfad, wert, utf8); break;
-    case 5:  // Genre: der Code als ein Zeichen
-        if (LongLesen(wert, z) && z >= 0 && z <= 255) d.Mp3_ID3v1_Genre.assign(1, static_cast<char>(z));
+    switch (f->form) {
+    case FeldForm::Text: TextSetzen(f->Text(d), wert, utf8); break;
+    case FeldForm::Datum:
+        if (IstDatum(wert)) f->Text(d).assign(wert);
         break;
-    case 9: GanzzahlFeld(d.Datei_Größe, wert); break;
-    case 11: GanzzahlFeld(d.Header_Bitrate, wert); break;
-    case 12: GanzzahlFeld(d.Header_Dauer, wert); break;
-    case 13: GanzzahlFeld(d.Header_Frequenz, wert); break;
-    case 14: GanzzahlFeld(d.Header_Frames, wert); break;
-    case 15:
-        if (LongLesen(wert, z) && (z == -1 || z >= 0)) d.Header_VBR = z != 0;
+    case FeldForm::Genre:  // der Code als ein Zeichen
+        if (LongLesen(wert, z) && z >= 0 && z <= 255) f->Text(d).assign(1, static_cast<char>(z));
         break;
-    case 16: DatumFeld(d.Datei_HinzugefügtAm, wert); break;
-    case 17: GanzzahlFeld(d.Datei_Typ, wert); break;
-    case 19: GanzzahlFeld(d.Datei_AngefordertAnzahl, wert); break;
-    case 20: DatumFeld(d.Datei_AngefordertGespieltAm, wert); break;
-    case 36: GanzzahlFeld(d.Mp3_ID3v2_TAGGröße, wert); break;
-    default: break;
+    case FeldForm::Zahl:
+        if (LongLesen(wert, z)) f->ZahlSetzen(d, z);
+        break;
+    case FeldForm::Wahrheit:
+        if (LongLesen(wert, z) && (z == -1 || z >= 0)) f->ZahlSetzen(d, z);
+        break;
     }
 }
 

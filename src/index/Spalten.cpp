@@ -1,52 +1,40 @@
 #include "index/Spalten.h"
 
+#include "app/FeldTabelle.h"
 #include "app/Kartei.h"
 #include "app/Tabelle.h"
 #include "app/Texte.h"
 #include "app/Trace.h"
 #include "app/Zahlen.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
-struct SpaltenZeile {
-    std::string name;
-    int32_t breite;
-};
-const std::array<SpaltenZeile, SpaltenAnzahl> kSpalten = {{
-    {"Nummer", 0},
-    {"Pfad", 0},
-    {"Dateiname", 1400},
-    {"Interpret", 1400},
-    {"Titel", 1400},
-    {"Album", 1400},
-    {"Jahr", 0},
-    {"Track", 0},
-    {"Genre", 0},
-    {"Kommentar", 0},
-    {"Größe", 0},
-    {"Bitrate", 0},
-    {"Dauer", 0},
-    {"Frequenz", 0},
-    {"Frames", 0},
-    {"Wechselmedium", 0},
-    {"Hinzufüge-Datum", 0},
-    {"Pfad+Dateiname", 0},
-    {"Benutzerdefiniert", 0},
-    {"Abspiel-Datum", 0},
-    {"Abspiel-Häufigkeit", 0},
-    {"Interpret-ID3v2", 0},
-    {"Titel-ID3v2", 0},
-    {"Album-ID3v2", 0},
-    {"Jahr-ID3v2", 0},
-    {"Track-ID3v2", 0},
-    {"Genre-ID3v2", 0},
-    {"Kommentar-ID3v2", 0},
-    {"ID3v2-TAG-Version", 0},
-    {"ID3v2-TAG-Größe", 0},
+// Die Spalten ohne eigenes Feld; die Namen der übrigen stehen bei ihren Feldern (FeldTabelle.h).
+constexpr std::array<std::pair<int32_t, std::string_view>, 5> kEigeneSpalten = {{
+    {1, "Nummer"},
+    {2, "Pfad"},
+    {3, "Dateiname"},
+    {18, "Pfad+Dateiname"},
+    {19, "Benutzerdefiniert"},
 }};
+// Diese Spalten sind anfangs sichtbar, 1400 Twips breit; alle anderen ausgeblendet.
+constexpr std::array<int32_t, 4> kSichtbareSpalten = {3, 4, 5, 6};
+constexpr int32_t kVorgabeBreite = 1400;
+
+constexpr std::array<std::string_view, SpaltenAnzahl + 1> NamenAufbauen() {
+    std::array<std::string_view, SpaltenAnzahl + 1> namen{};
+    for (const DateiFeld& f : DateiFeldTabelle)
+        if (f.spalte > 0) namen[size_t(f.spalte)] = f.spaltenName;
+    for (const auto& [nummer, name] : kEigeneSpalten) namen[size_t(nummer)] = name;
+    return namen;
+}
+constexpr std::array<std::string_view, SpaltenAnzahl + 1> kNamen = NamenAufbauen();
+static_assert(std::all_of(kNamen.begin() + 1, kNamen.end(), [](std::string_view n) { return !n.empty(); }),
+              "jede Spalte braucht einen Namen");
 
 std::string Posten(int32_t nummer, int32_t breite, int32_t position) {
     return std::to_string(nummer) + "=" + std::to_string(breite) + "=" + std::to_string(position);
@@ -63,24 +51,35 @@ bool PostenLesen(const std::string& text, SpaltenPosten& p) {
     return true;
 }
 
-std::string Kopftext(const Kartei& k, int32_t nummer) {
+}  // namespace
+
+std::string SpaltenKopftext(const Kartei& k, int32_t nummer) {
     // Die benutzerdefinierte Spalte trägt ihr Muster ohne "%" als Überschrift.
     return nummer == SpalteBenutzerdefiniert ? Ersetzen(k.Optionen.SpaltenNutzerformat, "%", "") : SpaltenName(nummer);
 }
-}  // namespace
+
+std::string SpaltenTag(int32_t nummer) {
+    return std::string(nummer == SpalteBenutzerdefiniert ? "b" : "");  // GCC 12: -Wrestrict-Fehlwarnung
+}
 
 const std::string& SpaltenName(int32_t nummer) {
-    static const std::string leer;
-    return nummer >= 1 && nummer <= SpaltenAnzahl ? kSpalten[size_t(nummer - 1)].name : leer;
+    static const std::array<std::string, SpaltenAnzahl + 1> namen = [] {
+        std::array<std::string, SpaltenAnzahl + 1> n;
+        for (size_t i = 0; i < n.size(); ++i) n[i] = kNamen[i];
+        return n;
+    }();
+    return nummer >= 1 && nummer <= SpaltenAnzahl ? namen[size_t(nummer)] : namen[0];
 }
 
 int32_t SpaltenVorgabeBreite(int32_t nummer) {
-    return nummer >= 1 && nummer <= SpaltenAnzahl ? kSpalten[size_t(nummer - 1)].breite : 0;
+    return std::find(kSichtbareSpalten.begin(), kSichtbareSpalten.end(), nummer) != kSichtbareSpalten.end()
+               ? kVorgabeBreite
+               : 0;
 }
 
 int32_t SpaltenNummer(std::string_view name) {
-    for (int32_t i = 0; i < SpaltenAnzahl; ++i)
-        if (kSpalten[size_t(i)].name == name) return i + 1;
+    for (int32_t i = 1; i <= SpaltenAnzahl; ++i)
+        if (kNamen[size_t(i)] == name) return i;
     return 0;
 }
 
@@ -150,8 +149,8 @@ void SpaltenAnpassen(Kartei& k, Ergebnisliste& liste, bool& fehler) {
         spalten.insert(spalten.begin() + std::ptrdiff_t(stelle), std::move(s));
     }
     for (auto& s : spalten) {
-        s.kopf = Kopftext(k, s.spalte);
-        s.tag = std::string(s.spalte == SpalteBenutzerdefiniert ? "b" : "");  // GCC 12: -Wrestrict-Fehlwarnung
+        s.kopf = SpaltenKopftext(k, s.spalte);
+        s.tag = SpaltenTag(s.spalte);
     }
     liste.spalten = std::move(spalten);
     liste.Geändert();

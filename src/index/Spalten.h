@@ -18,6 +18,9 @@ const std::string& SpaltenName(int32_t nummer);
 int32_t SpaltenVorgabeBreite(int32_t nummer);
 // Nummer zum Namen (genau, Groß/Klein zählt); 0, wenn es keine Spalte dieses Namens gibt.
 int32_t SpaltenNummer(std::string_view name);
+// Überschrift und Tag der Spalte in der Liste ("b" für Benutzerdefiniert, sonst leer).
+std::string SpaltenKopftext(const Kartei& k, int32_t nummer);
+std::string SpaltenTag(int32_t nummer);
 
 // Ein gültiger Posten der Spaltenbeschreibung.
 struct SpaltenPosten {

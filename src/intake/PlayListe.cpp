@@ -4,9 +4,9 @@
 #include "app/Pfade.h"
 #include "app/Texte.h"
 #include "app/Trace.h"
-#include "index/BlockLeser.h"
+#include "app/BlockLeser.h"
 #include "intake/Hinzufuegen.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 #include "shell/Fortschritt.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "media/Id3v2Lesen.h"
 
 #include "app/BitString.h"
+#include "app/FeldTabelle.h"
 #include "app/Trace.h"
 #include "media/DateiLeser.h"
 #include "media/Id3v2Text.h"
@@ -31,32 +32,10 @@ bool Mp3TAGLesenV2GrößeLesen(std::string_view bytes, int32_t& größe, bool ni
 }
 
 namespace {
-struct BekannterRahmen {
-    const char* id;    // 2.3 und 2.4
-    const char* id22;  // 2.2, "" wenn es keinen gibt
-    std::string DateiInfo::*feld;
-};
-const BekannterRahmen kRahmen[] = {
-    {"PCNT", "", &DateiInfo::Mp3_ID3v2_PCNT},    {"TRCK", "TRK", &DateiInfo::Mp3_ID3v2_TRCK},
-    {"TENC", "TEN", &DateiInfo::Mp3_ID3v2_TENC}, {"WXXX", "", &DateiInfo::Mp3_ID3v2_WXXX},
-    {"TCOP", "TCR", &DateiInfo::Mp3_ID3v2_TCOP}, {"TOPE", "TOA", &DateiInfo::Mp3_ID3v2_TOPE},
-    {"TCOM", "TCM", &DateiInfo::Mp3_ID3v2_TCOM}, {"TCON", "TCO", &DateiInfo::Mp3_ID3v2_TCON},
-    {"COMM", "COM", &DateiInfo::Mp3_ID3v2_COMM}, {"TYER", "TYE", &DateiInfo::Mp3_ID3v2_TYER},
-    {"TALB", "TAL", &DateiInfo::Mp3_ID3v2_TALB}, {"TPE1", "TP1", &DateiInfo::Mp3_ID3v2_TPE1},
-    {"TIT2", "TT2", &DateiInfo::Mp3_ID3v2_TIT2}, {"TLAN", "TLA", &DateiInfo::Mp3_ID3v2_TLAN},
-    {"TLEN", "", &DateiInfo::Mp3_ID3v2_TLEN},    {"TMED", "TMT", &DateiInfo::Mp3_ID3v2_TMED},
-    {"TPUB", "", &DateiInfo::Mp3_ID3v2_TPUB},    {"TSSE", "TSS", &DateiInfo::Mp3_ID3v2_TSSE},
-};
-
-std::string DateiInfo::*RahmenFeld(std::string_view id, bool v22) {
-    for (const auto& r : kRahmen)
-        if (id == (v22 ? r.id22 : r.id) && !id.empty()) return r.feld;
-    return nullptr;
-}
-
 void Zurücksetzen(DateiInfo& info) {
     info.Mp3_ID3v2_Status = 2;
-    for (const auto& r : kRahmen) (info.*r.feld).clear();
+    for (const DateiFeld& f : DateiFeldTabelle)
+        if (!f.rahmen23.empty()) f.Text(info).clear();
     info.Mp3_ID3v2_Weitere.clear();
     info.Mp3_ID3v2_TAGGröße = -1;
     info.Mp3_ID3v2_TAGPosition = -1;
@@ -102,8 +81,8 @@ bool RahmenLesen(Durchlauf& d, std::string_view& rest) {
     if (rest[idLänge] != '\0') KK_TRACE("Mp3TAGLesenV2", "Ein TAG-Feld ist sehr groß - ");
     const std::string_view inhalt = rest.substr(kopfLänge, static_cast<size_t>(größe));
 
-    if (auto feld = RahmenFeld(id, d.v22)) {
-        d.info.*feld = RahmenTextLesen(inhalt, größe, id == "WXXX");
+    if (const DateiFeld* feld = DateiFeldFürRahmen(id, d.v22)) {
+        feld->Text(d.info) = RahmenTextLesen(inhalt, größe, id == "WXXX");
     } else if (std::all_of(id.begin(), id.end(), [&](char c) { return c == id[0]; })) {
         d.info.Mp3_ID3v2_Benutzt = static_cast<int32_t>(d.zähler);  // Auffüllung beginnt
         return false;

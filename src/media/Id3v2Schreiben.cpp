@@ -1,6 +1,7 @@
 #include "media/Id3v2Schreiben.h"
 
 #include "app/BitString.h"
+#include "app/FeldTabelle.h"
 #include "app/Kartei.h"
 #include "app/Pfade.h"
 #include "app/Tabelle.h"
@@ -58,23 +59,22 @@ bool RahmenBauen(const DateiInfo& d, std::string& rahmen) {
     int32_t n = 0;
     auto sprache = [](const std::string& t) { return t.empty() ? t : std::string("eng", 3) + '\0' + t; };
     const struct {
-        std::string text;
-        const char* id;
+        std::string DateiInfo::*feld;
         bool immer;
     } liste[] = {
-        {d.Mp3_ID3v2_PCNT, "PCNT", false},          {d.Mp3_ID3v2_TRCK, "TRCK", false},
-        {d.Mp3_ID3v2_TENC, "TENC", false},          {sprache(d.Mp3_ID3v2_WXXX), "WXXX", false},
-        {d.Mp3_ID3v2_TCOP, "TCOP", false},          {d.Mp3_ID3v2_TOPE, "TOPE", false},
-        {d.Mp3_ID3v2_TCOM, "TCOM", false},          {d.Mp3_ID3v2_TCON, "TCON", false},
-        {sprache(d.Mp3_ID3v2_COMM), "COMM", false}, {d.Mp3_ID3v2_TYER, "TYER", false},
-        {d.Mp3_ID3v2_TALB, "TALB", false},          {d.Mp3_ID3v2_TPE1, "TPE1", true},
-        {d.Mp3_ID3v2_TIT2, "TIT2", true},           {d.Mp3_ID3v2_TLAN, "TLAN", false},
-        {d.Mp3_ID3v2_TLEN, "TLEN", false},          {d.Mp3_ID3v2_TMED, "TMED", false},
-        {d.Mp3_ID3v2_TPUB, "TPUB", false},          {d.Mp3_ID3v2_TSSE, "TSSE", false},
-        {d.Mp3_ID3v2_PCNT, "PCNT", false},  // ein zweites Mal: beim Lesen gewinnt der letzte
+        {&DateiInfo::Mp3_ID3v2_PCNT, false}, {&DateiInfo::Mp3_ID3v2_TRCK, false}, {&DateiInfo::Mp3_ID3v2_TENC, false},
+        {&DateiInfo::Mp3_ID3v2_WXXX, false}, {&DateiInfo::Mp3_ID3v2_TCOP, false}, {&DateiInfo::Mp3_ID3v2_TOPE, false},
+        {&DateiInfo::Mp3_ID3v2_TCOM, false}, {&DateiInfo::Mp3_ID3v2_TCON, false}, {&DateiInfo::Mp3_ID3v2_COMM, false},
+        {&DateiInfo::Mp3_ID3v2_TYER, false}, {&DateiInfo::Mp3_ID3v2_TALB, false}, {&DateiInfo::Mp3_ID3v2_TPE1, true},
+        {&DateiInfo::Mp3_ID3v2_TIT2, true},  {&DateiInfo::Mp3_ID3v2_TLAN, false}, {&DateiInfo::Mp3_ID3v2_TLEN, false},
+        {&DateiInfo::Mp3_ID3v2_TMED, false}, {&DateiInfo::Mp3_ID3v2_TPUB, false}, {&DateiInfo::Mp3_ID3v2_TSSE, false},
+        {&DateiInfo::Mp3_ID3v2_PCNT, false},  // ein zweites Mal: beim Lesen gewinnt der letzte
     };
-    for (const auto& r : liste)
-        if (!V2FrameAnhängen(r.text, r.id, n, frames, r.immer)) return false;
+    for (const auto& r : liste) {
+        const bool mitSprache = r.feld == &DateiInfo::Mp3_ID3v2_WXXX || r.feld == &DateiInfo::Mp3_ID3v2_COMM;
+        const std::string id(DateiFeldVon(r.feld).rahmen23);
+        if (!V2FrameAnhängen(mitSprache ? sprache(d.*r.feld) : d.*r.feld, id, n, frames, r.immer)) return false;
+    }
     // Die unbekannten Rahmen des Lesers, unverändert (ein einzelnes Leerzeichen heißt: keine).
     if (d.Mp3_ID3v2_Weitere.size() >= 2) {
         if (n + 1 > frames.UBound()) return false;

@@ -3,7 +3,7 @@
 #include "app/Kartei.h"
 #include "app/Pfade.h"
 #include "app/Texte.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 
 namespace {
 // Eintragsnummer der i-ten Auswahl, 0 wenn sie nicht (mehr) in der Tabelle steht.

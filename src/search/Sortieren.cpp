@@ -6,6 +6,7 @@
 #include "app/Trace.h"
 #include "app/Zahlen.h"
 #include "index/IndexFeld.h"
+#include "index/Spalten.h"
 #include "search/Suche.h"
 #include "search/SuchCache.h"
 #include "shell/Fortschritt.h"
@@ -192,4 +193,14 @@ void SpalteSortieren(Kartei& k, const std::string& kopf, const std::string& tag)
     SucheAktualisieren(k, false);
     k.ui.TitelNachrichtZeigen("Die Liste wurde sortiert nach der Spalte '" + schlüssel + "'", 750);
     KK_TRACE("lstSongs_ColumnClick", "sortiert nach " + schlüssel);
+}
+
+void SpalteNachNummerSortieren(Kartei& k, int32_t nummer) {
+    for (const auto& s : k.Liste.lstSongs.spalten) {
+        if (s.spalte != nummer) continue;
+        const ListenSpalte kopf = s;  // Kopie: die Liste wird neu aufgebaut
+        SpalteSortieren(k, kopf.kopf, kopf.tag);
+        return;
+    }
+    SpalteSortieren(k, SpaltenKopftext(k, nummer), SpaltenTag(nummer));
 }

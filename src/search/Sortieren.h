@@ -19,3 +19,6 @@ void SortierungUmkehrenPrüfen(Kartei& k, const std::string& Spalte);
 void lstSongs_ColumnClick(Kartei& k, int32_t spalte);
 // Derselbe Klick, mit Kopftext und Tag der Spalte.
 void SpalteSortieren(Kartei& k, const std::string& kopf, const std::string& tag);
+// Derselbe Klick auf die Spalte nummer (1..30) der Spaltentabelle; eine ausgeblendete Spalte mit
+// dem Kopf, den sie beim Einblenden bekäme.
+void SpalteNachNummerSortieren(Kartei& k, int32_t nummer);

@@ -2,7 +2,7 @@
 // Zustand der Suche und der Ergebnisliste: Abfragezeilen, Suchbereich, Sperren, die Bedienelemente
 // der Suche als Daten, Auswahl, Markierungen und Sortiergedächtnis.
 #include "app/EinsBasiert.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 
 #include <cstdint>
 #include <string>

@@ -161,3 +161,23 @@ std::optional<ListenWertName> ListenWertFinden(std::string_view name) {
     }
     return std::nullopt;
 }
+
+const EinsBasiert<std::string>* GespeicherteListe(const Kartei& k, const EinstellungsListe& l) {
+    return k.E.*l.zustand == 1 ? nullptr : &(k.E.*l.liste);
+}
+
+bool ListenWertSetzen(Kartei& k, const ListenWertName& w, const std::string& wert, std::string& fehler) {
+    auto& liste = k.E.*w.liste->liste;
+    int16_t& zustand = k.E.*w.liste->zustand;
+    if (zustand == 1) liste.ReDim(0);  // als leer markiert: der leere Platz zählt nicht
+    if (w.nummer > liste.UBound() + 1) {
+        fehler = "Die Liste '" + std::string(w.liste->name) + "' hat " + ZahlText(liste.UBound()) +
+                 " Einträge; setzen lässt sich nur Nummer 1 bis " + ZahlText(liste.UBound() + 1) + ".";
+        if (zustand == 1) liste.ReDim(1);
+        return false;
+    }
+    if (w.nummer > liste.UBound()) liste.Anhängen(wert);
+    else liste[w.nummer] = wert;
+    zustand = 0;
+    return true;
+}

@@ -49,3 +49,9 @@ struct ListenWertName {
     int32_t nummer;
 };
 std::optional<ListenWertName> ListenWertFinden(std::string_view name);
+
+// Die Liste, wie sie gespeichert würde: nullptr, wenn sie als leer markiert ist.
+const EinsBasiert<std::string>* GespeicherteListe(const Kartei& k, const EinstellungsListe& l);
+// Ein Listenwert: eine vorhandene Nummer wird ersetzt, die nächste hängt an; die Liste gilt
+// danach. false, wenn die Nummer weiter hinten liegt: fehler nennt den Grund, die Liste bleibt.
+bool ListenWertSetzen(Kartei& k, const ListenWertName& w, const std::string& wert, std::string& fehler);

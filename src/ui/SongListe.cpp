@@ -2,7 +2,7 @@
 
 #include "app/Kartei.h"
 #include "index/IndexFeld.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 #include "ui/Umrechnung.h"
 
 #include <QDrag>

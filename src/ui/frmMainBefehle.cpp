@@ -1,6 +1,6 @@
 // Die Befehle des Hauptfensters, die Liste mit Maus und Tastatur und die Kontextmenüs.
 #include "app/Kartei.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 #include "search/Hauptfenster.h"
 #include "ui/GuiOberflaeche.h"
 #include "ui/LinkLabel.h"

@@ -1,10 +1,7 @@
 // klangkartei: das Fensterprogramm.
 #include "app/Kartei.h"
 #include "app/Start.h"
-#include "platform/KonfigRegistrierung.h"
-#include "platform/LinuxDatentraeger.h"
-#include "platform/LinuxShell.h"
-#include "platform/SystemDienste.h"
+#include "platform/LinuxDienste.h"
 #include "platform/Verzeichnisse.h"
 #include "shell/Fortschritt.h"
 #include "ui/GuiOberflaeche.h"
@@ -22,25 +19,20 @@ int main(int argc, char** argv) {
     frmMain* hauptfenster = nullptr;
     GuiOberfläche ui([&]() -> QWidget* { return hauptfenster; });
     OrdnerAnlegen(KonfigOrdner());
-    KonfigRegistrierung registrierung(KonfigOrdner() + "/klangkartei.conf");
-    KeinSpielerfenster spieler;
-    LinuxShell shell;
-    shell.zwischenablage = [](const std::string& text) {
+    LinuxDienste dienste;
+    dienste.shell.zwischenablage = [](const std::string& text) {
         QApplication::clipboard()->setText(QString::fromStdString(text));
         return true;
     };
-    LinuxDatenträger datenträger;
-    SystemUhr uhr;
-    SystemZufall zufall;
-    Kartei k(Dienste{ui, registrierung, spieler, shell, datenträger, uhr, zufall});
+    Kartei k(dienste.Mit(ui));
     ui.fortschrittAbbrechen = [&k] { FortschrittAbbrechenGedrückt(k); };
 
     std::vector<std::string> argumente;
     for (int i = 1; i < argc; ++i) argumente.emplace_back(QString::fromLocal8Bit(argv[i]).toStdString());
     StartVorbereiten(k, argumente);
-    OrdnerAnlegen(DatenOrdner());  // der Standard-Index entsteht beim ersten Laden dort
+    const std::string standardIndex = StandardIndexBereitstellen();
 
-    frmMain fenster(k, ui, StandardIndexPfad());
+    frmMain fenster(k, ui, standardIndex);
     hauptfenster = &fenster;
     FensterStarten(k, fenster, ui);
     VorführungStarten(k, fenster);

@@ -1,7 +1,7 @@
 // "Aus Index entfernen": die Entfernliste und der Befehl über der Auswahl.
 #include "app/Pfade.h"
 #include "fileops/AusIndexEntfernen.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 #include "search/Suche.h"
 #include "support/Attrappen.h"
 #include "support/TestOrdner.h"

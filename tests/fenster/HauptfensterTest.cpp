@@ -1,5 +1,5 @@
 // Zusammenfassung der Auswahl, Menüregeln, Auswahlhelfer und Schließen des Hauptfensters.
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 #include "search/Hauptfenster.h"
 #include "shell/Beenden.h"
 #include "app/Pfade.h"

@@ -1,7 +1,7 @@
 #include "IndexTestHilfen.h"
 #include "app/Kartei.h"
 #include "index/IndexOptionen.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 
 #include "app/Pfade.h"
 #include "shell/Fortschritt.h"

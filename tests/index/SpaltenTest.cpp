@@ -1,7 +1,7 @@
 #include "IndexTestHilfen.h"
 #include "app/Kartei.h"
 #include "index/Spalten.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 
 #include <gtest/gtest.h>
 

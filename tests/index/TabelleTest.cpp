@@ -3,7 +3,7 @@
 #include "app/Kartei.h"
 #include "app/Pfade.h"
 #include "app/Tabelle.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 
 #include <gtest/gtest.h>
 

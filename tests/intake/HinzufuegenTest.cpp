@@ -3,7 +3,7 @@
 #include "intake/Hinzufuegen.h"
 #include "intake/HinzufuegenFragen.h"
 #include "intake/PlayListe.h"
-#include "settings/Dateitypen.h"
+#include "index/Dateitypen.h"
 #include "shell/Fortschritt.h"
 #include "support/Attrappen.h"
 #include "support/MpegDaten.h"

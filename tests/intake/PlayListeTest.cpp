@@ -1,6 +1,6 @@
 // Playlisten: Zeilenregeln, Pfadformen, Zeilenenden, Zeichensatz, Abbruch.
 #include "intake/PlayListe.h"
-#include "settings/Dateitypen.h"
+#include "index/Dateitypen.h"
 #include "shell/Fortschritt.h"
 #include "support/Attrappen.h"
 #include "support/TestOrdner.h"

@@ -1,7 +1,7 @@
 #include "app/Kartei.h"
 #include "intake/DateiFormat.h"
 #include "media/MedienInfos.h"
-#include "settings/Dateitypen.h"
+#include "index/Dateitypen.h"
 #include "support/Attrappen.h"
 #include "support/MpegDaten.h"
 #include "support/TestOrdner.h"

@@ -4,7 +4,7 @@
 #include "media/Id3v2Lesen.h"
 #include "media/Id3v2Schreiben.h"
 #include "media/MedienInfos.h"
-#include "settings/Dateitypen.h"
+#include "index/Dateitypen.h"
 #include "support/Attrappen.h"
 #include "support/MpegDaten.h"
 #include "support/TestOrdner.h"

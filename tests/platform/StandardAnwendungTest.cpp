@@ -1,5 +1,8 @@
-// Die Standardanwendung für audio/mpeg: Exec-Zeile bereinigen, Desktop-Datei finden, xdg-mime fragen.
+// Linux-Umgebung: die Standardanwendung für audio/mpeg (Exec-Zeile, Desktop-Datei, xdg-mime), die Orte
+// der Dateien und die Dienste beider Programme.
+#include "platform/LinuxDienste.h"
 #include "platform/StandardAnwendung.h"
+#include "platform/Verzeichnisse.h"
 #include "support/TestOrdner.h"
 
 #include <gtest/gtest.h>
@@ -86,4 +89,19 @@ TEST(StandardAnwendung, XdgMimeNenntDieDesktopDatei) {
     EXPECT_EQ(StandardAnwendungsBefehl("audio/ogg"), "");  // xdg-mime scheitert
     XdgMimeAnlegen(t / "bin", "unbekannt.desktop");
     EXPECT_EQ(StandardAnwendungsBefehl("audio/mpeg"), "");
+}
+
+TEST(LinuxDienste, OrteFolgenXdgUndDatenordnerLiegtNebenDemProgramm) {
+    TestOrdner o;
+    Umgebungsvariable konfig("XDG_CONFIG_HOME", o / "konf");
+    Umgebungsvariable daten("XDG_DATA_HOME", o / "daten");
+    EXPECT_EQ(EinstellungsDatei(), o / "konf/klangkartei/klangkartei.conf");
+    EXPECT_FALSE(std::filesystem::exists(o / "daten/klangkartei"));
+    EXPECT_EQ(StandardIndexBereitstellen(), o / "daten/klangkartei/Klangkt.kkt");
+    EXPECT_TRUE(std::filesystem::is_directory(o / "daten/klangkartei"));
+    // Der Build legt data/ unter share/klangkartei ab; das Programm findet es über seinen Pfad.
+    EXPECT_TRUE(std::filesystem::exists(ProgrammDatenOrdner() + "/klangkartei.desktop")) << ProgrammDatenOrdner();
+
+    LinuxDienste dienste;
+    EXPECT_EQ(dienste.registrierung.Dateipfad(), o / "konf/klangkartei/klangkartei.conf");
 }

@@ -1,4 +1,5 @@
-// Die Befehle search, sort und complete der Kommandozeile: Ausgaben Byte für Byte, Rückgabewerte.
+// Die Befehle search, sort und complete der Kommandozeile und die Auswahl der Einträge: Ausgaben Byte
+// für Byte, Rückgabewerte.
 #include "SuchTestHilfen.h"
 
 #include "index/IndexDatei.h"
@@ -7,6 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 using A = std::vector<std::string>;
@@ -104,4 +108,75 @@ TEST(CliSuche, SortUndComplete) {
     EXPECT_EQ(a.aus, "");
     a = Cli(o, {"complete", "Quatsch"});
     EXPECT_EQ(a.rückgabe, 2);
+}
+
+namespace {
+// Die Nummern der Blöcke, die show ausgibt, in ihrer Reihenfolge.
+std::vector<int> Nummern(const std::string& aus) {
+    std::vector<int> n;
+    for (size_t p = aus.find("Nummer="); p != std::string::npos; p = aus.find("\nNummer=", p + 1))
+        n.push_back(std::stoi(aus.substr(aus.find('=', p) + 1)));
+    return n;
+}
+}  // namespace
+
+TEST(CliAuswahl, EinträgeSucheOderAlle) {
+    TestOrdner o;
+    IndexSchreiben(o);
+    using N = std::vector<int>;
+    CliErgebnis a = Cli(o, {"show"});
+    EXPECT_EQ(Nummern(a.aus), (N{1, 2, 3, 4}));
+    // Genannte Einträge in ihrer Reihenfolge, doppelte einmal; der Block bleibt Byte für Byte.
+    a = Cli(o, {"show", "--entry", "3", "--entry", "1", "--entry", "3"});
+    EXPECT_EQ(a.rückgabe, 0);
+    EXPECT_EQ(Nummern(a.aus), (N{3, 1}));
+    EXPECT_TRUE(a.aus.starts_with("Nummer=3\nDateiPfade=/m/a\\x09b.mp3\nMp3_ID3v1_TAG="));
+    EXPECT_EQ(Cli(o, {"show", "--entry", "1"}).aus + Cli(o, {"show", "--entry", "4"}).aus,
+              Cli(o, {"show", "--entry", "1", "--entry", "4"}).aus);
+
+    // Eine Suche wählt, was search findet, in derselben Reihenfolge.
+    a = Cli(o, {"show", "--search", "NENA", "--field", "Interpret"});
+    EXPECT_EQ(a.rückgabe, 0);
+    EXPECT_EQ(Nummern(a.aus), (N{1, 4}));
+    EXPECT_EQ(Nummern(Cli(o, {"show", "--not", "--field", "Titel", "--search", "ein"}).aus), (N{4}));
+    EXPECT_EQ(Nummern(Cli(o, {"show", "--row", "Titel:00:tag", "--row", "Album:11:meer"}).aus), (N{1, 3}));
+    EXPECT_EQ(Nummern(Cli(o, {"show", "--search", ""}).aus), (N{1, 2, 3, 4}));
+    a = Cli(o, {"show", "--search", "gibtsnicht"});
+    EXPECT_EQ(a.rückgabe, 0);
+    EXPECT_EQ(a.aus, "");
+    EXPECT_EQ(Cli(o, {"show", "--search", "tag", "--field", "Titel", "--count"}).aus, "DateiAnzahl=3\n");
+    EXPECT_EQ(Cli(o, {"show", "--count"}).aus, "DateiAnzahl=4\n");
+
+    // Eine Nummer außerhalb des Index: Meldung, Rückgabe 1, keine Ausgabe.
+    a = Cli(o, {"show", "--entry", "2", "--entry", "0"});
+    EXPECT_EQ(a.rückgabe, 1);
+    EXPECT_EQ(a.aus, "");
+    EXPECT_EQ(a.fehler, "Den Eintrag 0 gibt es nicht; der Index hat 4 Einträge.\n");
+}
+
+TEST(CliAuswahl, FalscherAufrufIstGebrauchsfehler) {
+    TestOrdner o;
+    IndexSchreiben(o);
+    const std::vector<std::pair<A, std::string>> fälle = {
+        {{"show", "--entry"}, "--entry braucht eine Eintragsnummer."},
+        {{"show", "--entry", "1x"}, "--entry braucht eine Eintragsnummer."},
+        {{"show", "--search"}, "--search braucht einen Wert."},
+        {{"show", "--search", "a", "--search", "b"},
+         "Nur ein Suchtext ist erlaubt; Wörter trennt ein Leerzeichen im selben Argument."},
+        {{"show", "--entry", "1", "--search", "a"}, "--entry lässt sich nicht mit einer Suche verbinden."},
+        {{"show", "--not"}, "Kein Suchtext angegeben (\"\" findet alle Einträge)."},
+        {{"show", "--field", "Quatsch", "--search", "a"}, "Das Feld 'Quatsch' gibt es in der Suche nicht."},
+        {{"show", "--row", "Titel:00:a", "--search", "a"},
+         "--row lässt sich nicht mit --field, --not oder einem Suchtext verbinden."},
+        {{"show", "--row", "Titel:0:a"},
+         "Die Abfragezeile 'Titel:0:a' hat nicht die Form FELD:BEDINGUNG:TEXT (BEDINGUNG zwei Ziffern, z. B. 00 "
+         "oder 11)."},
+        {{"show", "--gibtsnicht"}, "show: unbekanntes Argument '--gibtsnicht'."},
+    };
+    for (const auto& [argumente, text] : fälle) {
+        const CliErgebnis a = Cli(o, argumente);
+        EXPECT_EQ(a.rückgabe, 2) << argumente[1];
+        EXPECT_EQ(a.aus, "");
+        EXPECT_TRUE(a.fehler.starts_with("klangkartei-cli: " + text + "\nAufruf: klangkartei-cli ")) << a.fehler;
+    }
 }

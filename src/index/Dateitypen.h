@@ -12,3 +12,5 @@ struct DateitypVorgabe {
 const DateitypVorgabe* DateitypenVorgaben(int& anzahl);
 // Ersetzt die Tabelle durch die Vorgaben und löscht die Leer-Markierung.
 void DateitypenVorgabenEinsetzen(IndexOptionen& o);
+// Ohne Tabelle gelten die Vorgaben (etwa für Dateien, die ohne geladenen Index gelesen werden).
+void DateitypenVorgabenWennLeer(IndexOptionen& o);

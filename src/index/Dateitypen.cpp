@@ -1,4 +1,4 @@
-#include "settings/Dateitypen.h"
+#include "index/Dateitypen.h"
 
 #include "index/IndexOptionen.h"
 
@@ -24,4 +24,8 @@ void DateitypenVorgabenEinsetzen(IndexOptionen& o) {
         o.DateitypKlasse[i + 1] = kVorgaben[i].klasse;
     }
     o.DateitypenLeer = false;
+}
+
+void DateitypenVorgabenWennLeer(IndexOptionen& o) {
+    if (o.DateitypenLeer) DateitypenVorgabenEinsetzen(o);
 }

@@ -1,4 +1,4 @@
-#include "index/BlockLeser.h"
+#include "app/BlockLeser.h"
 
 #include <cerrno>
 #include <cstring>
