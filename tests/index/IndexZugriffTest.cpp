@@ -5,7 +5,7 @@
 #include "app/Kartei.h"
 #include "app/Tabelle.h"
 #include "index/Spalten.h"
-#include "search/Ergebnisliste.h"
+#include "app/Ergebnisliste.h"
 #include "shell/Beenden.h"
 #include "support/IndexGenerator.h"
 #include "support/OhneVorrechte.h"
