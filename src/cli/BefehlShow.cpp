@@ -40,7 +40,5 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
 }  // namespace
 
 extern const Befehl BefehlShow = {"show", "show [AUSWAHL] [--count]",
-                                  "Die gewählten Einträge mit allen Feldern zeigen (Name=Wert), oder ihre Zahl; "
-                                  "AUSWAHL: --entry N (mehrfach) oder --search TEXT [--field FELD] [--not] oder "
-                                  "--row FELD:BEDINGUNG:TEXT (mehrfach), ohne: alle",
+                                  "Die gewählten Einträge mit allen Feldern zeigen (Name=Wert), oder ihre Zahl",
                                   Ausführen};

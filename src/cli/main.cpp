@@ -1,6 +1,7 @@
 // klangkartei-cli: allgemeine Schalter lesen, Unterbefehl aufrufen.
 #include "app/HalbeDatei.h"
 #include "app/Version.h"
+#include "cli/AuswahlArgumente.h"
 #include "cli/Befehle.h"
 
 #include <QCoreApplication>
@@ -19,6 +20,7 @@ void HilfeZeigen() {
                 "Befehle:\n",
                 KK_VERSION_TEXT);
     for (const auto& b : AlleBefehle()) std::printf("  %-40s %s\n", b.aufruf, b.hilfe);
+    std::printf("\nAUSWAHL (ohne: alle Einträge):\n  %s\n", AuswahlAufruf);
 }
 }  // namespace
 

@@ -36,7 +36,10 @@ namespace {
 // Der Suchzustand, wie das Fenster ihn nach der Eingabe bzw. der erweiterten Suche hinterlässt.
 void AbfrageEinrichten(Kartei& k, const SuchAbfrage& a) {
     auto& s = k.Suche;
+    // Was eine frühere Suche hinterließ (Zeilen, Bedingung, gesperrte Felder), gilt nicht mehr.
+    SuchbegriffeZurücksetzen(s);
     if (a.zeilen.empty()) {
+        s.cboSuche.Enabled = s.txtSongname.Enabled = true;
         const auto& felder = s.cboSuche.List;
         s.cboSuche.ListIndex = int32_t(std::find(felder.begin(), felder.end(), a.feld) - felder.begin());
         s.cboSuche.Text = a.feld;
@@ -50,9 +53,7 @@ void AbfrageEinrichten(Kartei& k, const SuchAbfrage& a) {
         AbfrageZeileLesen(zeile, feld, bedingung, text);
         SuchbegriffeHinzufügen(s, text, feld, bedingung);
     }
-    s.cboSuche.Enabled = s.txtSongname.Enabled = false;
-    s.cboSuche.ListIndex = -1;
-    s.txtSongname.Text = MehrereAbfragenText;
+    MehrereAbfragenZeigen(k);
 }
 }  // namespace
 

@@ -110,6 +110,13 @@ void cmdSucheLöschen_Click(Kartei& k) {
     txtSongname_Change(k);  // leerer Text: sucht sofort
 }
 
+void MehrereAbfragenZeigen(Kartei& k) {
+    auto& s = k.Suche;
+    s.cboSuche.Enabled = s.txtSongname.Enabled = false;
+    FeldWählen(s.cboSuche, -1);
+    s.txtSongname.Text = MehrereAbfragenText;
+}
+
 bool SucheErweitertÜbernehmen(Kartei& k) {
     auto& s = k.Suche;
     if (s.SuchAnzahl == 0) {
@@ -128,9 +135,7 @@ bool SucheErweitertÜbernehmen(Kartei& k) {
         }
         s.txtSongname.Text = s.SuchBegriffe[1];
     } else {
-        s.cboSuche.Enabled = s.txtSongname.Enabled = false;
-        FeldWählen(s.cboSuche, -1);
-        s.txtSongname.Text = MehrereAbfragenText;
+        MehrereAbfragenZeigen(k);
     }
     // Neu gesetzter Text: die Schreibmarke steht am Anfang.
     s.txtSongname.SelStart = s.txtSongname.SelLength = 0;

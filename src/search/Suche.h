@@ -28,3 +28,5 @@ void cmdSucheLöschen_Click(Kartei& k);
 // cmdOk der erweiterten Suche: eine Zeile geht zurück in cboSuche/txtSongname, mehrere sperren
 // beide. false mit Hinweis, wenn es keine Zeile gibt (der Dialog bleibt dann offen).
 bool SucheErweitertÜbernehmen(Kartei& k);
+// Mehrere Abfragezeilen: cboSuche und txtSongname gesperrt, kein Feld gewählt, der Hinweistext.
+void MehrereAbfragenZeigen(Kartei& k);

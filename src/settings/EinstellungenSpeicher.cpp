@@ -164,12 +164,11 @@ void ÜberzähligeLöschen(Kartei& k, const EinstellungsListe& l, int32_t ab) {
 }
 
 void ListeSpeichern(Kartei& k, const EinstellungsListe& l) {
-    const EinsBasiert<std::string>& liste = k.E.*l.liste;
     int32_t ab = 1;
-    if (k.E.*l.zustand != 1) {  // eine als leer markierte Liste wird nicht geschrieben
-        for (int32_t n = 1; n <= liste.UBound(); ++n)
-            SpezielleEinstellungSpeichern(k, NummerierterName(l, n), liste[n]);
-        ab = liste.UBound() + 1;
+    if (const auto* liste = GespeicherteListe(k, l)) {  // eine als leer markierte Liste wird nicht geschrieben
+        for (int32_t n = 1; n <= liste->UBound(); ++n)
+            SpezielleEinstellungSpeichern(k, NummerierterName(l, n), (*liste)[n]);
+        ab = liste->UBound() + 1;
     }
     ÜberzähligeLöschen(k, l, ab);
 }

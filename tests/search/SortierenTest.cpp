@@ -5,6 +5,8 @@
 #include "app/Texte.h"
 #include "app/Zahlen.h"
 #include "index/IndexFeld.h"
+#include "index/Spalten.h"
+#include "search/Abfrage.h"
 #include "search/ListeErstellen.h"
 #include "search/Sortieren.h"
 #include "shell/Fortschritt.h"
@@ -211,4 +213,47 @@ TEST(Sortieren, OhneZeilenUndOhneAnzeigeSortiertNichts) {
     u.k.E.StartBildschirm = 0;
     SpalteSortieren(u.k, "Pfad+Dateiname", "");
     EXPECT_EQ(Interpreten(u.k), (std::vector<std::string>{"a", "b"}));
+}
+
+TEST(Sortieren, NachSpaltennummerAuchAusgeblendetUndAuswahlFolgtDerListe) {
+    TestUmgebung u;
+    InterpretEintrag(u.k, "c", "1");
+    InterpretEintrag(u.k, "a", "3");
+    InterpretEintrag(u.k, "b", "2");
+    Suchen(u.k, "(Standardsuche)", "");
+    u.k.Liste.lstSongs.spalten.clear();  // keine Spalte sichtbar
+    u.k.Optionen.SpaltenNutzerformat = "%Interpret%";
+    SpalteNachNummerSortieren(u.k, SpalteBenutzerdefiniert);
+    EXPECT_EQ(Interpreten(u.k), (std::vector<std::string>{"a", "b", "c"}));
+    EXPECT_EQ(u.k.Suche.SortierSpalteZuletzt, "Benutzerdefiniert");
+    EXPECT_EQ(u.ui.titelTexte.back(), "Die Liste wurde sortiert nach der Spalte 'Benutzerdefiniert'");
+    SpalteNachNummerSortieren(u.k, SpaltenNummer("Titel"));
+    EXPECT_EQ(Interpreten(u.k), (std::vector<std::string>{"c", "b", "a"}));
+
+    // Die gewählten Einträge einer Suche sind die Ergebnisliste in ihrer Reihenfolge.
+    EintragsAuswahl auswahl;
+    auswahl.mitSuche = true;
+    auswahl.suche.feld = "Interpret";
+    auswahl.suche.text = "a";
+    auswahl.suche.nicht = true;
+    std::vector<int32_t> gewählt;
+    std::string fehler;
+    ASSERT_TRUE(EinträgeWählen(u.k, auswahl, gewählt, fehler));
+    std::vector<int32_t> liste;
+    for (const auto& z : u.k.Liste.lstSongs.zeilen) liste.push_back(z.eintrag);
+    EXPECT_EQ(gewählt, liste);
+    EXPECT_EQ(gewählt, (std::vector<int32_t>{1, 2}));
+    EXPECT_EQ(Interpreten(u.k), (std::vector<std::string>{"c", "b", "a"}));
+    // Die nächste Suche erbt weder die Verneinung noch frühere Zeilen.
+    auswahl.suche.nicht = false;
+    auswahl.suche.text = "b";
+    ASSERT_TRUE(EinträgeWählen(u.k, auswahl, gewählt, fehler));
+    EXPECT_EQ(gewählt, (std::vector<int32_t>{2}));
+    auswahl.suche.zeilen = {"Interpret:11:c", "Titel:11:3"};
+    ASSERT_TRUE(EinträgeWählen(u.k, auswahl, gewählt, fehler));
+    EXPECT_EQ(gewählt, (std::vector<int32_t>{2}));
+    auswahl.suche.zeilen.clear();
+    auswahl.suche.text = "c";
+    ASSERT_TRUE(EinträgeWählen(u.k, auswahl, gewählt, fehler));
+    EXPECT_EQ(gewählt, (std::vector<int32_t>{1}));
 }

@@ -46,9 +46,7 @@ inline void ZeilenSuchen(Kartei& k, const std::vector<ZeilenAbfrage>& zeilen) {
     auto& s = k.Suche;
     SuchbegriffeZurücksetzen(s);
     for (const auto& z : zeilen) SuchbegriffeHinzufügen(s, z.text, z.feld, z.bedingung);
-    s.cboSuche.Enabled = s.txtSongname.Enabled = false;
-    s.cboSuche.ListIndex = -1;
-    s.txtSongname.Text = MehrereAbfragenText;
+    MehrereAbfragenZeigen(k);
     tmrListe_Timer(k);
 }
 
