@@ -66,6 +66,14 @@ bool GanzGeladen(const std::string& pfad, int32_t& anzahl, std::vector<std::stri
     return zeilen == size_t(anzahl);
 }
 
+// Ein Index mit anzahl erfundenen Einträgen und den Vorgabe-Dateitypen (sonst nähme add kein MP3).
+bool IndexDateiErzeugen(const std::string& pfad, int32_t anzahl) {
+    TestUmgebung u;
+    IndexErzeugen(u.k, anzahl, 5);
+    DateitypenVorgabenWennLeer(u.k.Optionen);
+    return DateiSpeichern(u.k, pfad, false);
+}
+
 size_t TempReste(const std::string& ordner) {
     size_t n = 0;
     DIR* d = ::opendir(ordner.c_str());
@@ -78,12 +86,7 @@ size_t TempReste(const std::string& ordner) {
 
 TEST(IndexProzesse, ZweiUndDreiZugleichVerlierenNichts) {
     TestOrdner o;
-    {
-        TestUmgebung u;
-        IndexErzeugen(u.k, 200, 3);
-        DateitypenVorgabenWennLeer(u.k.Optionen);
-        ASSERT_TRUE(DateiSpeichern(u.k, o / "i.kkt", false));
-    }
+    ASSERT_TRUE(IndexDateiErzeugen(o / "i.kkt", 200));
     const std::string lied = mpeg::Frame(mpeg::Kopf{}) + mpeg::Füllung(400);
     int32_t erwartet = 200;
     for (int runde = 0; runde < 50; ++runde) {
@@ -112,12 +115,7 @@ TEST(IndexProzesse, ZweiUndDreiZugleichVerlierenNichts) {
 TEST(IndexProzesse, SigkillWährendDesSpeichernsLässtAltOderNeu) {
     TestOrdner o;
     constexpr int32_t kAnzahl = 10000;  // einige MB: das Schreiben dauert lange genug, um getroffen zu werden
-    {
-        TestUmgebung u;
-        IndexErzeugen(u.k, kAnzahl, 5);
-        DateitypenVorgabenWennLeer(u.k.Optionen);
-        ASSERT_TRUE(DateiSpeichern(u.k, o / "gross.kkt", false));
-    }
+    ASSERT_TRUE(IndexDateiErzeugen(o / "gross.kkt", kAnzahl));
     const std::string lied = mpeg::Frame(mpeg::Kopf{}) + mpeg::Füllung(400);
     // Gespeichert wird, solange die eigene temporäre Datei besteht: erst auf sie warten, dann
     // irgendwann in der Zeit schießen, die ein ungestörtes Speichern braucht.
