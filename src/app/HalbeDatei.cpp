@@ -1,3 +1,4 @@
+// Löscht eine halb geschriebene Datei, wenn ein Signal das Programm beendet.
 #include "app/HalbeDatei.h"
 
 #include <csignal>

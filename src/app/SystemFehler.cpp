@@ -1,3 +1,4 @@
+// Deutsche Texte zu den Fehlernummern des Systems.
 #include "app/SystemFehler.h"
 
 #include <cerrno>

@@ -1,3 +1,4 @@
+// Verknüpfungen, Dateiart, Stand und Sperre der Indexdatei.
 #include "index/IndexZugriff.h"
 
 #include "app/Kartei.h"

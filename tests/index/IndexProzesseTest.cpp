@@ -26,9 +26,9 @@ extern char** environ;
 namespace {
 // Startet klangkartei-cli im Testordner mit eigenen XDG-Ordnern; Ausgaben verworfen.
 pid_t CliStarten(const TestOrdner& o, const std::vector<std::string>& argumente) {
-    std::vector<std::string> umgebung = {"XDG_CONFIG_HOME=" + o / "konfig", "XDG_DATA_HOME=" + o / "daten",
-                                         "XDG_CACHE_HOME=" + o / "cache", "ASAN_OPTIONS=detect_leaks=0",
-                                         "PATH=/usr/bin:/bin", "HOME=" + o.Pfad()};
+    std::vector<std::string> umgebung = {
+        "XDG_CONFIG_HOME=" + o / "konfig", "XDG_DATA_HOME=" + o / "daten", "XDG_CACHE_HOME=" + o / "cache",
+        "ASAN_OPTIONS=detect_leaks=0",     "PATH=/usr/bin:/bin",           "HOME=" + o.Pfad()};
     std::vector<std::string> argv = {KK_CLI};
     argv.insert(argv.end(), argumente.begin(), argumente.end());
     std::vector<char*> a, u;
@@ -155,7 +155,9 @@ TEST(IndexProzesse, SigkillWährendDesSpeichernsLässtAltOderNeu) {
         int32_t nachher = 0;
         ASSERT_TRUE(GanzGeladen(o / "gross.kkt", nachher, pfade)) << "Schuss " << schuss;
         ASSERT_TRUE(nachher == vorher || nachher == vorher + 1) << "Schuss " << schuss << ": " << nachher;
-        if (rückgabe == 0) ASSERT_EQ(nachher, vorher + 1) << "Schuss " << schuss;
+        if (rückgabe == 0) {
+            ASSERT_EQ(nachher, vorher + 1) << "Schuss " << schuss;
+        }
         vorher = nachher;
     }
     EXPECT_GE(getroffen, 20);
