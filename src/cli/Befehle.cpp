@@ -7,6 +7,8 @@ extern const Befehl BefehlShow, BefehlField, BefehlSave;
 extern const Befehl BefehlSettings;
 // Mediendateien
 extern const Befehl BefehlInfo, BefehlTag, BefehlUntag;
+// Tag-Werkzeuge
+extern const Befehl BefehlAutotag;
 // Aufnahme
 extern const Befehl BefehlAdd, BefehlImport, BefehlScan, BefehlTypes;
 // Suche
@@ -24,6 +26,8 @@ const std::vector<Befehl>& AlleBefehle() {
         BefehlInfo,
         BefehlTag,
         BefehlUntag,
+        // Tag-Werkzeuge
+        BefehlAutotag,
         // Aufnahme
         BefehlAdd,
         BefehlImport,

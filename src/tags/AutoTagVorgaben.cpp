@@ -3,8 +3,8 @@
 #include <array>
 
 EinsBasiert<std::string> AutoTagVorgabeFormate() {
-    // Trennzeichen sind hier immer einzelne Zeichen: ein längerer Trenner ließe seinen Rest
-    // im erkannten Wort stehen.
+    // Nur " - " und "/" trennen: längere Trenner ließen ihren Rest im erkannten Wort stehen.
+    // "%Müll%" nimmt Vorsätze und Zusätze auf, die kein Feld sind (etwa "live" oder eine Quelle).
     static constexpr std::array<const char*, AutoTagVorgabeAnzahl> formate = {
         "/%Interpret% - %Titel%",
         "/%Titelnummer% - %Interpret% - %Titel%",
@@ -13,7 +13,7 @@ EinsBasiert<std::string> AutoTagVorgabeFormate() {
         "/%Interpret% - %Album% - %Titelnummer% - %Titel%",
         "/%Interpret% - %Titelnummer% - %Titel%",
         "/%Titelnummer% - %Titel%",
-        "/%Titelnummer%. %Titel%",
+        "/%Müll% - %Interpret% - %Titel%",
         "/%Interpret%/%Album%/%Titel%",
         "/%Interpret%/%Album%/%Titelnummer% - %Titel%",
         "/%Interpret%/%Album%/%Titelnummer% - %Interpret% - %Titel%",
@@ -26,7 +26,7 @@ EinsBasiert<std::string> AutoTagVorgabeFormate() {
         "/%Interpret%/%Jahr% - %Album%/%Titelnummer% - %Titel%",
         "/%Genre%/%Interpret% - %Titel%",
         "/%Genre%/%Interpret%/%Album%/%Titelnummer% - %Titel%",
-        "/%Interpret% - %Titel% (%Kommentar%)",
+        "/%Interpret% - %Titel% - %Müll%",
         "/%Titel% - %Interpret%",
         "%Automatik%",
     };
