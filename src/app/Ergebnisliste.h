@@ -22,6 +22,7 @@ struct Ergebnisliste {
     std::vector<ListenZeile> zeilen;    // in Listenreihenfolge
     bool kopfleiste = true;             // Spaltenköpfe sichtbar
     bool gitter = false;                // Gitterlinien
+    bool eingerichtet = false;          // SpaltenAnpassen hat die Spalten gesetzt (auch auf keine)
     int32_t sichtbareZeile = -1;        // diese Zeile (0-basiert) ins Bild holen, -1 = keine
     uint64_t version = 0;               // wird bei jeder Änderung erhöht (für die Anzeige)
 

@@ -1,5 +1,7 @@
 #include "app/Pfade.h"
 
+#include "app/Texte.h"
+
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -52,4 +54,9 @@ long long DateiGrößeLesen(std::string_view pfad) {
     struct stat st {};
     if (::stat(std::string(pfad).c_str(), &st) != 0 || S_ISDIR(st.st_mode)) return -1;
     return static_cast<long long>(st.st_size);
+}
+
+void PfadTextAnhängen(std::string& ziel, std::string_view pfad) {
+    if (IstGültigesUtf8(pfad)) ziel.append(pfad);
+    else ziel.append(Windows1252ZuUtf8(pfad));
 }

@@ -191,6 +191,12 @@ int32_t ZeichenAnzahl(std::string_view text) {
     return n;
 }
 
+int32_t ZeichenStelle(std::string_view text, int32_t zeichen) {
+    size_t pos = 0;
+    for (int32_t i = 1; i < zeichen && pos < text.size(); ++i) CodepunktLesen(text, pos);
+    return static_cast<int32_t>(pos) + 1;
+}
+
 bool TexteGleich(std::string_view a, std::string_view b) {
     size_t i = 0, j = 0;
     while (i < a.size() && j < b.size())

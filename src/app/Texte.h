@@ -27,6 +27,8 @@ std::string Klein(std::string_view text);
 void KleinAnhängen(std::string& ziel, std::string_view text);
 // Zahl der Zeichen (Codepunkte); ungültige Bytes zählen je eins.
 int32_t ZeichenAnzahl(std::string_view text);
+// Byte-Position (ab 1) des Zeichens Nummer zeichen (ab 1); hinter dem Ende: Länge + 1.
+int32_t ZeichenStelle(std::string_view text, int32_t zeichen);
 
 // --- Vergleiche ---
 // Gleiche Länge und gleich ohne Groß/Klein; zwei leere Texte sind gleich.

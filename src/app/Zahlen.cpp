@@ -102,8 +102,31 @@ bool LongLesen(std::string_view text, int32_t& ziel) {
     return w && LongAus(*w, ziel);
 }
 
+namespace {
+// "3.145.728" oder "-1.500,5": Tausenderpunkte zwischen Dreiergruppen, wie TausenderFormat sie
+// setzt; ergibt den Text ohne Punkte, sonst leer.
+std::string OhneTausenderpunkte(std::string_view t) {
+    auto ziffer = [&](size_t i) { return i < t.size() && t[i] >= '0' && t[i] <= '9'; };
+    size_t i = 0;
+    while (i < t.size() && (t[i] == ' ' || t[i] == '+' || t[i] == '-')) ++i;
+    std::string aus(t.substr(0, i));
+    const size_t anfang = i;
+    while (ziffer(i)) aus.push_back(t[i++]);
+    if (i == anfang || i - anfang > 3) return {};
+    bool gruppe = false;
+    for (; i < t.size() && t[i] == '.'; i += 4, gruppe = true) {
+        if (!ziffer(i + 1) || !ziffer(i + 2) || !ziffer(i + 3)) return {};
+        aus.append(t.substr(i + 1, 3));
+    }
+    if (!gruppe || ziffer(i) || (i < t.size() && t[i] == '.')) return {};
+    aus.append(t.substr(i));  // Nachkommateil und Leerzeichen prüft ZahlWert
+    return aus;
+}
+}  // namespace
+
 int32_t ZahlLesen(std::string_view text) {
-    auto w = ZahlWert(text);
+    const std::string ohnePunkte = OhneTausenderpunkte(text);
+    auto w = ZahlWert(ohnePunkte.empty() ? text : std::string_view(ohnePunkte));
     int32_t z = 0;
     if (w) LongAus(*w, z);
     return z;

@@ -28,7 +28,8 @@ bool LongAddieren(int32_t a, int32_t b, int32_t& ziel);
 // IsNumeric und CLng in einem: true, wenn der Text numerisch ist und in 32 Bit passt.
 // Schneller Weg für reine Ziffern (Indexdatei: Millionen Felder).
 bool LongLesen(std::string_view text, int32_t& ziel);
-// Die Zahl im Text (CLng), 0 wenn leer, nicht numerisch oder zu groß.
+// Die Zahl im Text (CLng), 0 wenn leer, nicht numerisch oder zu groß. Tausenderpunkte zwischen
+// Dreiergruppen ("3.145.728", wie TausenderFormat schreibt) gelten als solche, nicht als Komma.
 int32_t ZahlLesen(std::string_view text);
 // Streng: nur optionales Vorzeichen und Ziffern, ohne Leerzeichen; nullopt sonst oder
 // wenn die Zahl nicht in 64 Bit passt. Für gespeicherte Zahlen und Eingaben auf der Kommandozeile.

@@ -126,8 +126,9 @@ void OptionenSchreiben(Kartei& k, Schreiber& s) {
         for (int32_t i = 1; i <= o.DateitypEintrag.UBound(); ++i)
             s.Zeile("#OPT:VERWALTEN=",
                     o.DateitypEintrag[i] + "," + (o.DateitypKlasse.GültigerIndex(i) ? o.DateitypKlasse[i] : ""));
-    // Eine Liste ohne Spalten war nie eingerichtet; sie soll die gespeicherte Anordnung nicht löschen.
-    if (!k.Liste.lstSongs.spalten.empty()) SpaltenSpeichern(k, k.Liste.lstSongs);
+    // Eine nie eingerichtete Liste soll die gespeicherte Anordnung nicht löschen; eine ohne
+    // sichtbare Spalte schreibt ihre Beschreibung wie jede andere.
+    if (k.Liste.lstSongs.eingerichtet) SpaltenSpeichern(k, k.Liste.lstSongs);
     s.Zeile("#OPT:SPALTEN_LEISTE=", std::to_string(o.SpaltenLeiste));
     s.Zeile("#OPT:SPALTEN_GITTER=", std::to_string(o.SpaltenGitter));
     s.Zeile("#OPT:SPALTEN=", o.Spalten);

@@ -66,7 +66,7 @@ void Standardsuche(std::string& e, const DateiInfo& d, const std::string& pfad) 
     for (const std::string* teil :
          {&d.Mp3_ID3v2_TPE1, &d.Mp3_ID3v2_TIT2, &d.Mp3_ID3v1_Interpret, &d.Mp3_ID3v1_Titel, &d.Mp3_ID3v1_Album})
         e.append(*teil).push_back(' ');
-    e.append(pfad);
+    PfadTextAnhängen(e, pfad);
 }
 
 // Die Felder, die nur von den Kopf- und Dateidaten abhängen.
@@ -146,10 +146,10 @@ bool IndexFeldZurückgeben(const Kartei& k, int32_t nummer, const IndexFeld& fel
     switch (feld.kennung) {
     case K::Standardsuche: Standardsuche(ergebnis, d, pfad); break;
     case K::Nummer: ZahlSetzen(ergebnis, nummer); break;
-    case K::Pfad: ergebnis.assign(PfadZurückgebenSicht(pfad)); break;
-    case K::Dateiname: ergebnis.assign(DateinameAusPfadSicht(pfad)); break;
-    case K::DateiEndung: ergebnis.assign(DateiEndungSicht(pfad)); break;
-    case K::PfadDateiname: ergebnis.assign(pfad); break;
+    case K::Pfad: PfadTextAnhängen(ergebnis, PfadZurückgebenSicht(pfad)); break;
+    case K::Dateiname: PfadTextAnhängen(ergebnis, DateinameAusPfadSicht(pfad)); break;
+    case K::DateiEndung: PfadTextAnhängen(ergebnis, DateiEndungSicht(pfad)); break;
+    case K::PfadDateiname: PfadTextAnhängen(ergebnis, pfad); break;
     case K::Interpret:
     case K::Titel:
     case K::Album:

@@ -29,7 +29,7 @@ void FeldLesen(int32_t feld, std::string_view wert, bool utf8, std::string& pfad
     if (feld >= 2 && feld <= 8) d.Mp3_ID3v1_Status = 1;
     if (feld >= 21) d.Mp3_ID3v2_Status = 1;
     if (feld == 1) {
-        TextSetzen(pfad, wert, utf8);
+        pfad.assign(wert);  // Pfade bleiben Bytes, sonst fände der Eintrag seine Datei nicht wieder
         return;
     }
     const DateiFeld* f = DateiFeldFürPlatz(feld);

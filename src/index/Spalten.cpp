@@ -153,6 +153,7 @@ void SpaltenAnpassen(Kartei& k, Ergebnisliste& liste, bool& fehler) {
         s.tag = SpaltenTag(s.spalte);
     }
     liste.spalten = std::move(spalten);
+    liste.eingerichtet = true;
     liste.Geändert();
 }
 

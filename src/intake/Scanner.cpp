@@ -125,9 +125,10 @@ bool SuchlisteHinzufügen(Kartei& k, const std::string& eintrag, int16_t modus) 
 }
 
 bool MaskePasst(const std::string& name, const std::string& maske) {
-    if (name.size() <= maske.size()) return false;
-    const auto start = static_cast<int32_t>(name.size() - maske.size());
-    return InStrText(start, name, maske) > 0;
+    // Längen und Startstelle zählen Zeichen: "x.mp3é" hat hinter ".mp3" nur ein Zeichen.
+    const int32_t länge = ZeichenAnzahl(name), maskenLänge = ZeichenAnzahl(maske);
+    if (länge <= maskenLänge) return false;
+    return InStrText(ZeichenStelle(name, länge - maskenLänge), name, maske) > 0;
 }
 
 bool DateienSuchenAPI(Kartei& k, std::string& pfad, const EinsBasiert<std::string>& masken, int16_t unterordner,

@@ -107,3 +107,17 @@ TEST(Datum, DifferenzenWieDateDiff) {
     EXPECT_EQ(DatumDifferenz(Zeiteinheit::Minute, Datum{2001, 1, 1, 10, 0, 59}, Datum{2001, 1, 1, 10, 1, 0}), 1);
     EXPECT_EQ(DatumDifferenz(Zeiteinheit::Minute, Datum{2001, 1, 1, 10, 0, 0}, Datum{2001, 1, 1, 10, 0, 59}), 0);
 }
+
+TEST(Zahlen, ZahlLesenNimmtTausenderpunkte) {
+    // So schreibt TausenderFormat Größen in die Liste; sortiert wird über ZahlLesen.
+    EXPECT_EQ(ZahlLesen("3.145.728"), 3145728);
+    EXPECT_EQ(ZahlLesen("1.500"), 1500);
+    EXPECT_EQ(ZahlLesen("-12.345,6"), -12346);
+    EXPECT_EQ(ZahlLesen(" 1.000 "), 1000);
+    // Keine Dreiergruppen: der Punkt bleibt ein Komma.
+    EXPECT_EQ(ZahlLesen("1.5"), 2);
+    EXPECT_EQ(ZahlLesen("1.5000"), 2);
+    EXPECT_EQ(ZahlLesen("1234.567"), 1235);
+    EXPECT_EQ(ZahlLesen("1.234.5"), 0);
+    EXPECT_EQ(ZahlLesen("1.234x"), 0);
+}

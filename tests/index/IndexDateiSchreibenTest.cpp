@@ -2,6 +2,7 @@
 #include "app/Kartei.h"
 #include "app/Pfade.h"
 #include "app/Tabelle.h"
+#include "index/IndexFeld.h"
 #include "shell/Fortschritt.h"
 #include "support/IndexGenerator.h"
 
@@ -229,4 +230,53 @@ TEST(IndexSchreiben, RegelmäßigUndBeimSchließen) {
     u.k.DateiGeändert = false;
     EXPECT_EQ(SpeichernVorSchließenFragen(u.k), SchließenAktion::OhneSpeichern);
     EXPECT_EQ(u.ui.meldungen.size(), vorher + 3);
+}
+
+TEST(IndexSchreiben, PfadeBleibenBytesNurDieAnzeigeWandelt) {
+    TestOrdner o;
+    TestUmgebung a;
+    IndexGrößeÄndern(a.k, 2, false);
+    a.k.DateiAnzahl = 2;
+    a.k.DateiPfade[1] = "/m/Lied_\xE4.mp3";  // Latin-1 von einer alten Platte
+    a.k.DateiDaten[1].Mp3_ID3v1_Status = 1;
+    a.k.DateiDaten[1].Mp3_ID3v1_Titel = "Käse";
+    a.k.DateiPfade[2] = "/m/Lied_ä.mp3";
+    a.k.Optionen.Spalten = ListenSpalten();  // so schreibt die geladene Liste sie wieder
+    ASSERT_TRUE(DateiSpeichern(a.k, o / "a.kkt", false));
+    const std::string datei = DateiLesen(o / "a.kkt");
+    EXPECT_NE(datei.find("|/m/Lied_\xE4.mp3Käse"), std::string::npos);
+
+    TestUmgebung b;
+    b.k.E.Mp3TagLesen = "000";
+    ASSERT_TRUE(DateiLaden(b.k, o / "a.kkt"));
+    ASSERT_EQ(b.k.DateiAnzahl, 2);
+    EXPECT_EQ(b.k.DateiPfade[1], "/m/Lied_\xE4.mp3");
+    EXPECT_EQ(b.k.DateiDaten[1].Mp3_ID3v1_Titel, "Käse");
+    EXPECT_EQ(b.k.DateiPfade[2], "/m/Lied_ä.mp3");
+    ASSERT_TRUE(DateiSpeichern(b.k, o / "a.kkt", false));
+    EXPECT_EQ(DateiLesen(o / "a.kkt"), datei);
+
+    // Angezeigt, gesucht und sortiert wird der Text: Windows-1252, wo es kein UTF-8 ist.
+    std::string text;
+    int16_t art = 0;
+    for (auto [feld, erwartet] : {std::pair{"Dateiname", "Lied_ä.mp3"},
+                                  {"Pfad+Dateiname", "/m/Lied_ä.mp3"},
+                                  {"Pfad", "/m"},
+                                  {"Datei-Endung", ".mp3"}}) {
+        ASSERT_TRUE(IndexFeldZurückgeben(b.k, 1, feld, "", text, art));
+        EXPECT_EQ(text, erwartet) << feld;
+    }
+    ASSERT_TRUE(IndexFeldZurückgeben(b.k, 1, "(Standardsuche)", "", text, art));
+    EXPECT_TRUE(text.ends_with(" /m/Lied_ä.mp3")) << text;
+}
+
+TEST(IndexSchreiben, BeschreibungOhneSichtbareSpalteSchreibtDieListe) {
+    TestOrdner o;
+    TestUmgebung u;
+    ASSERT_TRUE(IndexAusBytesLaden(u, o, "#TAG:kk102\r\n#OPT:SPALTEN=3=0=1,4=0=2\r\n"));
+    EXPECT_TRUE(u.k.Liste.lstSongs.spalten.empty());
+    ASSERT_TRUE(DateiSpeichern(u.k, o / "index.kkt", false));
+    std::string alle;
+    for (int i = 1; i <= 30; ++i) alle += (i > 1 ? "," : "") + std::to_string(i) + "=0=0";
+    EXPECT_EQ(DateiLesen(o / "index.kkt"), StandardKopf(alle));
 }

@@ -73,3 +73,30 @@ TEST(CliAufnahme, AddImportTypes) {
     DateiSchreiben(o / "alt.kkt", "#TAG:kk101\r\n");
     EXPECT_EQ(Aufruf(o, {"--index", o / "alt.kkt", "types"}).aus.substr(0, 12), "mp3=1\t110\nmp");
 }
+
+TEST(CliAufnahme, Latin1DateinameBleibtSeineDatei) {
+    TestOrdner o;
+    const std::string index = o / "i.kkt";
+    const std::string datei = o / "Lied_\xE4.mp3";  // kein UTF-8
+    DateiSchreiben(datei, kMp3);
+    Ergebnis e = Aufruf(o, {"--index", index, "add", datei});
+    ASSERT_EQ(e.rückgabe, 0) << e.fehler;
+    EXPECT_EQ(e.aus, "1 Datei(en) hinzugefügt\n");
+    EXPECT_NE(DateiLesen(index).find("|" + datei), std::string::npos);
+
+    // Laden, speichern, wieder laden: derselbe Pfad, Byte für Byte.
+    ASSERT_EQ(Aufruf(o, {"--index", index, "save"}).rückgabe, 0);
+    EXPECT_NE(DateiLesen(index).find("|" + datei), std::string::npos);
+    e = Aufruf(o, {"--index", index, "add", datei});
+    EXPECT_EQ(e.aus, "0 Datei(en) hinzugefügt\n");
+    EXPECT_EQ(Aufruf(o, {"--index", index, "show", "--count"}).aus, "DateiAnzahl=1\n");
+    e = Aufruf(o, {"--index", index, "search", "Lied_ä"});                   // gesucht wird im Text des Namens
+    EXPECT_NE(e.aus.find("\t" + datei + "\n"), std::string::npos) << e.aus;  // Skripte bekommen die Bytes
+
+    // Der Tag landet im Eintrag dieser Datei.
+    e = Aufruf(o, {"--index", index, "tag", datei, "Mp3_ID3v1_Titel=Neu"});
+    ASSERT_EQ(e.rückgabe, 0) << e.fehler;
+    e = Aufruf(o, {"--index", index, "show", "--entry", "1"});
+    EXPECT_NE(e.aus.find("\nDateiPfade=" + datei + "\n"), std::string::npos) << e.aus;
+    EXPECT_NE(e.aus.find("\nMp3_ID3v1_Titel=Neu\n"), std::string::npos) << e.aus;
+}

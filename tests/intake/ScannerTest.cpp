@@ -118,6 +118,14 @@ TEST(Scanner, AbbruchInDerTiefe) {
     EXPECT_TRUE(lauf(false));
 }
 
+TEST(Scanner, MaskeZähltZeichenNichtBytes) {
+    EXPECT_TRUE(MaskePasst("x.mp3\xC3\xA9", ".mp3"));           // "é" ist ein Zeichen hinter der Maske
+    EXPECT_FALSE(MaskePasst("x.mp3\xC3\xA9\xC3\xA9", ".mp3"));  // zwei Zeichen: nicht mehr
+    EXPECT_TRUE(MaskePasst("\xC3\xA9.mp3", ".mp3"));
+    EXPECT_FALSE(MaskePasst("\xC3\xA9", "."));             // ein Zeichen ist nicht länger als die Maske
+    EXPECT_TRUE(MaskePasst("Lied_\xE4.mp3\xE4", ".mp3"));  // ein ungültiges Byte zählt als ein Zeichen
+}
+
 TEST(Scanner, JederOrdnerNurEinmal) {
     TestUmgebung u;
     TestOrdner o;

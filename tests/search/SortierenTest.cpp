@@ -215,6 +215,23 @@ TEST(Sortieren, OhneZeilenUndOhneAnzeigeSortiertNichts) {
     EXPECT_EQ(Interpreten(u.k), (std::vector<std::string>{"a", "b"}));
 }
 
+TEST(Sortieren, GrößenNachIhremZahlenwert) {
+    TestUmgebung u;
+    for (int32_t größe : {3145728, 1500, 100, 999, 2500, 1000}) {
+        DateiInfo& d = Neu(u.k, "/m/" + std::to_string(größe) + ".mp3");
+        d.Datei_Größe = größe;
+        d.Mp3_ID3v2_Status = 1;
+        d.Mp3_ID3v2_TAGGröße = größe;
+    }
+    for (const char* spalte : {"Größe", "ID3v2-TAG-Größe"}) {
+        SCOPED_TRACE(spalte);
+        MitFortschritt(u, 0, [&] { QSort(u.k, spalte, 1, u.k.DateiAnzahl); });
+        std::string folge;
+        for (int32_t i = 1; i <= u.k.DateiAnzahl; ++i) folge += std::to_string(u.k.DateiDaten[i].Datei_Größe) + " ";
+        EXPECT_EQ(folge, "100 999 1000 1500 2500 3145728 ");
+    }
+}
+
 TEST(Sortieren, NachSpaltennummerAuchAusgeblendetUndAuswahlFolgtDerListe) {
     TestUmgebung u;
     InterpretEintrag(u.k, "c", "1");
