@@ -13,6 +13,8 @@ extern const Befehl BefehlAutotag;
 extern const Befehl BefehlAdd, BefehlImport, BefehlScan, BefehlTypes;
 // Suche
 extern const Befehl BefehlSearch, BefehlSort, BefehlComplete;
+// Berichte
+extern const Befehl BefehlExport, BefehlStats, BefehlDupes;
 
 const std::vector<Befehl>& AlleBefehle() {
     static const std::vector<Befehl> befehle = {
@@ -37,6 +39,10 @@ const std::vector<Befehl>& AlleBefehle() {
         BefehlSearch,
         BefehlSort,
         BefehlComplete,
+        // Berichte
+        BefehlExport,
+        BefehlStats,
+        BefehlDupes,
     };
     return befehle;
 }

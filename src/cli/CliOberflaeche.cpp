@@ -18,7 +18,7 @@ int Antwort(int schalter, bool ja) {
 }  // namespace
 
 int CliOberfläche::MeldungZeigen(const std::string& text, int schalter) {
-    int antwort = Antwort(schalter, ja_);
+    int antwort = Antwort(schalter, ja_ && !(dreiKnöpfeAbbrechen_ && schalter == Meldung::JaNeinAbbrechen));
     std::fprintf(stderr, "%s\n", text.c_str());
     if (antwort != Meldung::Ok)
         std::fprintf(stderr, "→ %s\n", antwort == Meldung::Ja ? "Ja" : antwort == Meldung::Nein ? "Nein" : "Abbrechen");

@@ -18,11 +18,16 @@ public:
     bool OrdnerWählen(const std::string& titel, std::string& ordner) override;
     bool DateienWählen(const std::string& titel, const std::string& filter, std::vector<std::string>& dateien) override;
 
+    // Fragen mit drei Knöpfen (Ja/Nein/Abbrechen) auch mit --yes abbrechen (export: niemand
+    // soll ungefragt ein Anzeigeprogramm bekommen).
+    void DreiKnopfFragenAbbrechen() { dreiKnöpfeAbbrechen_ = true; }
+
     // Der letzte Titeltext (Statuszeile), für Befehle, die ihn ausgeben.
     const std::string& LetzterTitelText() const { return letzterTitel_; }
 
 private:
     bool ja_;
+    bool dreiKnöpfeAbbrechen_ = false;
     bool terminal_ = false;
     bool balkenOffen_ = false;
     int32_t letzteBreite_ = -1;

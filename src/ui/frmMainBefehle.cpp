@@ -7,6 +7,7 @@
 #include "ui/LinkeSpalte.h"
 #include "ui/SongListe.h"
 #include "ui/Umrechnung.h"
+#include "ui/dialoge/BerichteZeigen.h"
 #include "ui/frmMain.h"
 
 #include <QApplication>
@@ -134,7 +135,11 @@ void frmMain::BefehlAusführen(const QString& name) {
     else if (name == QStringLiteral("cmdBeenden")) close();
     else if (name == QStringLiteral("cmdSucheLöschen")) cmdSucheLöschen_Click();
     else if (name == QStringLiteral("cmdSucheMehr")) cmdSucheMehr_Click();
-    else NichtVerfügbar();
+    else if (name == QStringLiteral("cmdIndexStatistik")) IndexStatistikZeigen(this, k_);
+    else if (name == QStringLiteral("cmdExportieren")) {
+        AuswahlAktualisieren();
+        ExportierenZeigen(this, k_, AusgewählteDateien(), AusgewähltAnzahl());
+    } else NichtVerfügbar();
 }
 
 void frmMain::NichtVerfügbar() {

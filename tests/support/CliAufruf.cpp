@@ -25,3 +25,8 @@ CliErgebnis CliAufrufen(const char* cli, const TestOrdner& o, const std::vector<
     e.fehler = DateiLesen(o / ".fehler");
     return e;
 }
+
+CliErgebnis CliMitIndex(const char* cli, const TestOrdner& o, std::vector<std::string> argumente) {
+    argumente.insert(argumente.begin(), {"--index", "i.kkt"});
+    return CliAufrufen(cli, o, argumente);
+}

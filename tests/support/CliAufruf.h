@@ -12,3 +12,6 @@ struct CliErgebnis {
 
 // cli: Pfad des Programms (KK_CLI der Test-Programme). Arbeitsordner ist der Testordner.
 CliErgebnis CliAufrufen(const char* cli, const TestOrdner& o, const std::vector<std::string>& argumente);
+
+// Dasselbe mit "--index i.kkt" vorweg: der Index im Testordner.
+CliErgebnis CliMitIndex(const char* cli, const TestOrdner& o, std::vector<std::string> argumente);

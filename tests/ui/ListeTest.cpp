@@ -1,6 +1,7 @@
 // Die Ergebnisliste im echten Hauptfenster: tippen, sortieren, wählen, entfernen, Feldsuche,
 // erweiterte Suche, Kontextmenü, Spalten, Hinzufügen und Ablegen.
 #include "app/Pfade.h"
+#include "ui/Umrechnung.h"
 #include "support/MpegDaten.h"
 #include "FensterUmgebung.h"
 
@@ -23,6 +24,7 @@ private slots:
     void KontextmenueUndAuswahlhelfer();
     void OrdnerHinzufuegenAblegenZiehen();
     void SpaltenAusDenIndexOptionen();
+    void PfadOhneUtf8();
 
 private:
     std::unique_ptr<QTemporaryDir> xdg_;
@@ -294,6 +296,19 @@ void ListeTest::SpaltenAusDenIndexOptionen() {
     QVERIFY(w.k.Optionen.Spalten.find("5=1500=2") != std::string::npos);
     QVERIFY(w.k.Optionen.Spalten.find("19=2100=1") != std::string::npos);
     QVERIFY(w.k.DateiGeändert);  // die Beschreibung hat sich geändert
+}
+
+// Ein Latin-1-Dateiname bleibt im Index Bytes; Liste und Meldungen zeigen ihn als Windows-1252.
+void ListeTest::PfadOhneUtf8() {
+    TestOrdner ordner;
+    Fenster w;
+    w.k.E.TippsAktueller = 0;
+    w.Starten({LiederIndex(ordner)});
+    w.k.DateiPfade[1] = "/m/Lied_\xE4.mp3";
+    QVERIFY(Drücken(*w.f, "cmdSucheLöschen"));
+    QVERIFY(Spalte(w.f->lstSongs(), 0).contains(QStringLiteral("Lied_ä.mp3")));
+    QCOMPARE(Q("Die Datei '/m/Lied_\xE4.mp3' fehlt."), QStringLiteral("Die Datei '/m/Lied_ä.mp3' fehlt."));
+    QCOMPARE(Q("Grüße"), QStringLiteral("Grüße"));
 }
 
 #include "ListeTest.moc"

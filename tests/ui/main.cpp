@@ -7,6 +7,7 @@
 int DialogeTestAusführen(int argc, char** argv);
 int FensterTestAusführen(int argc, char** argv);
 int ListeTestAusführen(int argc, char** argv);
+int BerichteFensterTestAusführen(int argc, char** argv);
 
 int main(int argc, char** argv) {
     QTemporaryDir xdg;
@@ -21,5 +22,6 @@ int main(int argc, char** argv) {
     int fehler = DialogeTestAusführen(argc, argv);
     fehler += FensterTestAusführen(argc, argv);
     fehler += ListeTestAusführen(argc, argv);
+    fehler += BerichteFensterTestAusführen(argc, argv);
     return fehler;
 }

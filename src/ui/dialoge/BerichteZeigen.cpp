@@ -1,0 +1,16 @@
+#include "ui/dialoge/BerichteZeigen.h"
+
+#include "ui/dialoge/frmExportieren.h"
+#include "ui/dialoge/frmStatistik.h"
+
+void IndexStatistikZeigen(QWidget* besitzer, const Kartei& k) {
+    frmStatistik dialog(besitzer, k);
+    dialog.exec();
+}
+
+void ExportierenZeigen(QWidget* besitzer, Kartei& k, const EinsBasiert<int32_t>& gewählt, int32_t anzahl) {
+    std::vector<int32_t> liste;
+    for (int32_t i = 1; i <= anzahl && gewählt.GültigerIndex(i); ++i) liste.push_back(gewählt[i]);
+    frmExportieren dialog(besitzer, k, std::move(liste));
+    dialog.exec();
+}
