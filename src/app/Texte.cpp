@@ -116,6 +116,31 @@ std::string Utf8ZuWindows1252(std::string_view text) {
     return aus;
 }
 
+bool PasstInWindows1252(std::string_view text) {
+    return !IstGültigesUtf8(text) || Windows1252ZuUtf8(Utf8ZuWindows1252(text)) == text;
+}
+
+std::string Utf8ZuUtf16(std::string_view text, bool bigEndian) {
+    std::string aus;
+    aus.reserve(text.size() * 2);
+    auto einheit = [&](char32_t u) {
+        const char hoch = static_cast<char>(u >> 8), tief = static_cast<char>(u & 0xFF);
+        aus.push_back(bigEndian ? hoch : tief);
+        aus.push_back(bigEndian ? tief : hoch);
+    };
+    for (size_t pos = 0; pos < text.size();) {
+        const auto cp = CodepunktLesen(text, pos);
+        const char32_t u = cp < 0 ? char32_t(0xFFFD) : static_cast<char32_t>(cp);
+        if (u < 0x10000) {
+            einheit(u);
+        } else {
+            einheit(0xD800 + ((u - 0x10000) >> 10));
+            einheit(0xDC00 + ((u - 0x10000) & 0x3FF));
+        }
+    }
+    return aus;
+}
+
 std::string Utf16ZuUtf8(std::string_view bytes, bool bigEndian) {
     std::string aus;
     aus.reserve(bytes.size() / 2);

@@ -17,6 +17,11 @@ std::string Utf8ZuWindows1252(std::string_view text);
 // UTF-16 → UTF-8. Ein BOM (FEFF) wird übersprungen, ein vertauschtes (FFFE) wechselt die
 // Byte-Reihenfolge; einzelne Ersatzzeichen-Hälften werden zu U+FFFD, ein Restbyte entfällt.
 std::string Utf16ZuUtf8(std::string_view bytes, bool bigEndian);
+// UTF-8 → UTF-16 ohne BOM; ungültige Bytes werden zu U+FFFD.
+std::string Utf8ZuUtf16(std::string_view text, bool bigEndian);
+// Lässt sich der Text ohne Verlust in Windows-1252 schreiben? Ungültiges UTF-8 zählt als passend,
+// es wird ohnehin byteweise übernommen.
+bool PasstInWindows1252(std::string_view text);
 // Ein aus einer Datei gelesenes Feld: gültiges UTF-8 bleibt, sonst gilt Windows-1252.
 std::string DateiTextLesen(std::string_view bytes);
 

@@ -65,3 +65,12 @@ std::string_view DateiLeser::Stück(int64_t versatz, int64_t n) {
     Anhängen(fd_, versatz, n, stück_);
     return stück_;
 }
+
+std::string DateiLeser::StückKopie(int64_t versatz, int64_t n) {
+    if (fd_ < 0 || n <= 0 || versatz < 0 || versatz >= länge_) return {};
+    n = std::min(n, länge_ - versatz);
+    if (versatz + n <= static_cast<int64_t>(anfang_.size())) return std::string(Stück(versatz, n));
+    std::string aus;
+    Anhängen(fd_, versatz, n, aus);
+    return aus;
+}

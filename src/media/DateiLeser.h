@@ -26,6 +26,8 @@ public:
     std::string_view Anfang(int64_t n);
     // Bis zu n Bytes ab dem 0-basierten versatz. Die Ansicht gilt bis zum nächsten Aufruf.
     std::string_view Stück(int64_t versatz, int64_t n);
+    // Dasselbe als eigener Text: ein großer Block wird so nur einmal kopiert.
+    std::string StückKopie(int64_t versatz, int64_t n);
 
 private:
     int fd_ = -1;

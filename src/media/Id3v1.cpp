@@ -184,7 +184,7 @@ bool TAGEntfernen(Kartei& k, DateiInfo& rückgabe, const std::string& dateiname,
                            Meldung::Ausrufezeichen);
         return false;
     }
-    const auto ergebnis = DateiNeuSchreiben(dateiname, neu, {}, 0, DateiRest{dateiname, {{0, länge - 128}}});
+    const auto ergebnis = DateiBeschreibbarNeuSchreiben(dateiname, neu, DateiRest{dateiname, {{0, länge - 128}}});
     if (!TagEntfernenErgebnisMelden(k, "ID3v1", dateiname, ergebnis)) return false;
     rückgabe = MedienInfosLesen(k, dateiname, rückgabe, "10", false, "1", "0");
     if (k.DateiDaten.GültigerIndex(eintrag)) {

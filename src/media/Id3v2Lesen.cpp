@@ -82,7 +82,10 @@ bool RahmenLesen(Durchlauf& d, std::string_view& rest) {
     const std::string_view inhalt = rest.substr(kopfLänge, static_cast<size_t>(größe));
 
     if (const DateiFeld* feld = DateiFeldFürRahmen(id, d.v22)) {
-        feld->Text(d.info) = RahmenTextLesen(inhalt, größe, id == "WXXX");
+        const auto art = id == "WXXX"                  ? RahmenArt::Wxxx
+                         : id == "COMM" || id == "COM" ? RahmenArt::Kommentar
+                                                       : RahmenArt::Text;
+        feld->Text(d.info) = RahmenTextLesen(inhalt, größe, art);
     } else if (std::all_of(id.begin(), id.end(), [&](char c) { return c == id[0]; })) {
         d.info.Mp3_ID3v2_Benutzt = static_cast<int32_t>(d.zähler);  // Auffüllung beginnt
         return false;

@@ -7,13 +7,15 @@
 #include "app/Tabelle.h"
 #include "app/Texte.h"
 #include "app/Zahlen.h"
+#include "media/Id3v2Bestand.h"
 #include "media/Id3v2Lesen.h"
+#include "media/Id3v2Text.h"
 #include "media/MedienInfos.h"
 
 #include <algorithm>
 #include <cerrno>
+#include <deque>
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <limits>
 #include <unistd.h>
 
@@ -41,47 +43,117 @@ std::string Mp3TAGSpeichernV2FrameHeaderZurückgeben(int32_t größe, const std:
     return id + VierBytes(ZahlZuBitString(größe, 4)) + std::string(2, '\0');
 }
 
-bool V2FrameAnhängen(const std::string& text, const std::string& id, int32_t& anzahl, EinsBasiert<std::string>& frames,
-                     bool immerSchreiben) {
-    if (text.empty() && !immerSchreiben) return true;
-    if (anzahl + 1 > frames.UBound()) return false;
-    const std::string inhalt = Utf8ZuWindows1252(text);
-    ++anzahl;
-    const auto größe = static_cast<int32_t>(inhalt.size()) + 1;  // mit dem Kodierungsbyte
-    frames[anzahl] = Mp3TAGSpeichernV2FrameHeaderZurückgeben(größe, id) + '\0' + inhalt;
-    return true;
+namespace {
+// Ein neuer Rahmen aus dem Text eines Feldes. Ein Kommentar behält Sprache und Beschreibung des
+// alten Rahmens; WXXX bleibt in der festen Form "eng" NUL Adresse.
+std::string NeuerRahmen(const std::string& id, const std::string& text, const BestandRahmen* alt) {
+    std::string inhalt;
+    if (id == "WXXX") {
+        inhalt = std::string(1, '\0') + "eng" + '\0' + Utf8ZuWindows1252(text);
+    } else if (id == "COMM") {
+        std::string sprache = "eng", beschreibung;
+        if (const auto teile = alt ? KommentarZerlegen(alt->Inhalt()) : std::nullopt) {
+            sprache = teile->sprache;
+            beschreibung = KodiertZuUtf8(teile->beschreibung, teile->kodierung);
+        }
+        const int k = KodierungWählen(text, beschreibung);
+        inhalt = static_cast<char>(k) + sprache + TextKodieren(beschreibung, k, true) + TextKodieren(text, k, false);
+    } else {
+        const int k = KodierungWählen(text);
+        inhalt = static_cast<char>(k) + TextKodieren(text, k, false);
+    }
+    return Mp3TAGSpeichernV2FrameHeaderZurückgeben(static_cast<int32_t>(inhalt.size()), id) + inhalt;
 }
 
-namespace {
-// Alle Rahmen in fester Reihenfolge; false, wenn die 19 Plätze nicht reichen.
-bool RahmenBauen(const DateiInfo& d, std::string& rahmen) {
-    EinsBasiert<std::string> frames(kRahmenPlätze);
-    int32_t n = 0;
-    auto sprache = [](const std::string& t) { return t.empty() ? t : std::string("eng", 3) + '\0' + t; };
-    const struct {
-        std::string DateiInfo::*feld;
-        bool immer;
-    } liste[] = {
-        {&DateiInfo::Mp3_ID3v2_PCNT, false}, {&DateiInfo::Mp3_ID3v2_TRCK, false}, {&DateiInfo::Mp3_ID3v2_TENC, false},
-        {&DateiInfo::Mp3_ID3v2_WXXX, false}, {&DateiInfo::Mp3_ID3v2_TCOP, false}, {&DateiInfo::Mp3_ID3v2_TOPE, false},
-        {&DateiInfo::Mp3_ID3v2_TCOM, false}, {&DateiInfo::Mp3_ID3v2_TCON, false}, {&DateiInfo::Mp3_ID3v2_COMM, false},
-        {&DateiInfo::Mp3_ID3v2_TYER, false}, {&DateiInfo::Mp3_ID3v2_TALB, false}, {&DateiInfo::Mp3_ID3v2_TPE1, true},
-        {&DateiInfo::Mp3_ID3v2_TIT2, true},  {&DateiInfo::Mp3_ID3v2_TLAN, false}, {&DateiInfo::Mp3_ID3v2_TLEN, false},
-        {&DateiInfo::Mp3_ID3v2_TMED, false}, {&DateiInfo::Mp3_ID3v2_TPUB, false}, {&DateiInfo::Mp3_ID3v2_TSSE, false},
-        {&DateiInfo::Mp3_ID3v2_PCNT, false},  // ein zweites Mal: beim Lesen gewinnt der letzte
-    };
-    for (const auto& r : liste) {
-        const bool mitSprache = r.feld == &DateiInfo::Mp3_ID3v2_WXXX || r.feld == &DateiInfo::Mp3_ID3v2_COMM;
-        const std::string id(DateiFeldVon(r.feld).rahmen23);
-        if (!V2FrameAnhängen(mitSprache ? sprache(d.*r.feld) : d.*r.feld, id, n, frames, r.immer)) return false;
+struct FeldRahmen {
+    std::string DateiInfo::*feld;
+    bool immer;
+    std::string Id() const { return std::string(DateiFeldVon(feld).rahmen23); }
+};
+const FeldRahmen kFeldRahmen[] = {
+    {&DateiInfo::Mp3_ID3v2_PCNT, false}, {&DateiInfo::Mp3_ID3v2_TRCK, false}, {&DateiInfo::Mp3_ID3v2_TENC, false},
+    {&DateiInfo::Mp3_ID3v2_WXXX, false}, {&DateiInfo::Mp3_ID3v2_TCOP, false}, {&DateiInfo::Mp3_ID3v2_TOPE, false},
+    {&DateiInfo::Mp3_ID3v2_TCOM, false}, {&DateiInfo::Mp3_ID3v2_TCON, false}, {&DateiInfo::Mp3_ID3v2_COMM, false},
+    {&DateiInfo::Mp3_ID3v2_TYER, false}, {&DateiInfo::Mp3_ID3v2_TALB, false}, {&DateiInfo::Mp3_ID3v2_TPE1, true},
+    {&DateiInfo::Mp3_ID3v2_TIT2, true},  {&DateiInfo::Mp3_ID3v2_TLAN, false}, {&DateiInfo::Mp3_ID3v2_TLEN, false},
+    {&DateiInfo::Mp3_ID3v2_TMED, false}, {&DateiInfo::Mp3_ID3v2_TPUB, false}, {&DateiInfo::Mp3_ID3v2_TSSE, false},
+};
+
+// Die Kennungen der Tabelle, einmal nachgeschlagen.
+const std::vector<std::string>& FeldKennungen() {
+    static const std::vector<std::string> ids = [] {
+        std::vector<std::string> v;
+        for (const auto& f : kFeldRahmen) v.push_back(f.Id());
+        return v;
+    }();
+    return ids;
+}
+
+bool IstFeldRahmen(const std::string& id) {
+    const auto& ids = FeldKennungen();
+    return std::find(ids.begin(), ids.end(), id) != ids.end();
+}
+
+// Der neue Tag als Folge von Stücken: neue Rahmen liegen hier, unveränderte bleiben Ansichten in
+// den alten Tag, damit ein großes Bild nicht kopiert wird.
+struct NeueRahmen {
+    std::deque<std::string> eigen;
+    std::vector<std::string_view> teile;
+    int64_t größe = 0;
+    void Anhängen(std::string_view t) {
+        teile.push_back(t);
+        größe += static_cast<int64_t>(t.size());
     }
-    // Die unbekannten Rahmen des Lesers, unverändert (ein einzelnes Leerzeichen heißt: keine).
-    if (d.Mp3_ID3v2_Weitere.size() >= 2) {
-        if (n + 1 > frames.UBound()) return false;
-        frames[++n] = d.Mp3_ID3v2_Weitere;
+    void Eigen(std::string t) {
+        eigen.push_back(std::move(t));
+        Anhängen(eigen.back());
     }
-    rahmen.clear();
-    for (int32_t i = 1; i <= n; ++i) rahmen += frames[i];
+    std::string Zusammen() const {
+        std::string aus;
+        aus.reserve(static_cast<size_t>(größe));
+        for (auto t : teile) aus.append(t);
+        return aus;
+    }
+};
+
+// Alle Rahmen in fester Reihenfolge; false, wenn die 19 Plätze nicht reichen. Mit einem alten
+// Tag (bestand) bleiben die Rahmen eines Feldes, das sich gegenüber dem Gelesenen (gelesen)
+// nicht geändert hat, Byte für Byte; von einem geänderten wird nur der letzte ersetzt, den der
+// Leser zeigt. Alle übrigen Rahmen des alten Tags folgen unverändert.
+bool RahmenBauen(const DateiInfo& d, const DateiInfo* gelesen, const Id3v2Bestand* bestand, NeueRahmen& rahmen) {
+    int32_t plätze = 0;
+    std::string zähler;  // ein neuer Zähler steht ein zweites Mal am Ende der Liste
+    for (size_t nr = 0; nr < std::size(kFeldRahmen); ++nr) {
+        const FeldRahmen& f = kFeldRahmen[nr];
+        const std::string& id = FeldKennungen()[nr];
+        std::vector<const BestandRahmen*> alte;
+        if (bestand)
+            for (const auto& r : bestand->rahmen)
+                if (r.id == id) alte.push_back(&r);
+        const std::string& wert = d.*f.feld;
+        if (gelesen && (*gelesen).*f.feld == wert && !alte.empty()) {
+            for (const auto* r : alte) rahmen.Anhängen(r->bytes);
+            ++plätze;
+            continue;
+        }
+        for (size_t i = 0; i + 1 < alte.size(); ++i) rahmen.Anhängen(alte[i]->bytes);
+        if (wert.empty() && !f.immer) continue;
+        std::string neu = NeuerRahmen(id, wert, alte.empty() ? nullptr : alte.back());
+        if (f.feld == &DateiInfo::Mp3_ID3v2_PCNT) zähler = neu;
+        rahmen.Eigen(std::move(neu));
+        ++plätze;
+    }
+    if (!zähler.empty()) rahmen.Eigen(zähler), ++plätze;
+    // Die übrigen Rahmen: aus dem alten Tag, sonst die des Lesers (ein einzelnes Leerzeichen heißt: keine).
+    std::vector<std::string_view> weitere;
+    if (bestand) {
+        for (const auto& r : bestand->rahmen)
+            if (!IstFeldRahmen(r.id)) weitere.push_back(r.bytes);
+    } else if (d.Mp3_ID3v2_Weitere.size() >= 2) {
+        weitere.push_back(d.Mp3_ID3v2_Weitere);
+    }
+    if (!weitere.empty() && plätze >= kRahmenPlätze) return false;
+    for (auto w : weitere) rahmen.Anhängen(w);
     return true;
 }
 
@@ -89,25 +161,54 @@ std::string KannNichtGelöschtWerden(const std::string& pfad) {
     return "Der ID3v2-TAG konnte nicht gespeichert werden.\nDie Datei '" + pfad + "' konnte nicht gelöscht werden.";
 }
 
-// Überschreibt nur die Bytes des alten Tags; misslingt das, kommen die alten Bytes zurück.
-bool AnOrtUndStelle(const std::string& pfad, const std::string& vorn, int64_t padding, std::string& fehlertext) {
+// Erste Stelle, an der sich der neue Tag (Stücke, dann nullen NUL-Bytes) vom alten unterscheidet,
+// von vorn oder (rückwärts) von hinten gezählt; die Länge, wenn keine.
+size_t ErsterUnterschied(std::vector<std::string_view> teile, std::string_view alt, bool rückwärts) {
+    const std::string nullen(std::min<size_t>(alt.size(), 4096), '\0');
+    size_t gesamt = 0;
+    for (auto t : teile) gesamt += t.size();
+    if (gesamt > alt.size()) return 0;  // passt nicht: an Ort und Stelle gibt es das nicht
+    for (size_t rest = alt.size() - std::min(gesamt, alt.size()); rest > 0; rest -= std::min(rest, nullen.size()))
+        teile.emplace_back(nullen.data(), std::min(rest, nullen.size()));
+    if (rückwärts) std::reverse(teile.begin(), teile.end());
+    size_t pos = 0;
+    for (auto t : teile) {
+        const std::string_view gegen = alt.substr(rückwärts ? alt.size() - pos - t.size() : pos, t.size());
+        if (t != gegen) {  // erst das ganze Stück auf einmal, dann Byte für Byte
+            size_t n = 0;
+            while (rückwärts ? t[t.size() - 1 - n] == gegen[t.size() - 1 - n] : t[n] == gegen[n]) ++n;
+            return pos + n;
+        }
+        pos += t.size();
+    }
+    return alt.size();
+}
+
+// Überschreibt nur die Bytes des alten Tags, und von ihnen nur die, die sich ändern (ein großes
+// Bild bleibt dann liegen); misslingt das, kommen die alten Bytes zurück.
+bool AnOrtUndStelle(const std::string& pfad, const std::vector<std::string_view>& teile, std::string_view alt,
+                    std::string& fehlertext) {
+    const size_t von = ErsterUnterschied(teile, alt, false);
+    if (von == alt.size()) return true;
+    const size_t bis = alt.size() - ErsterUnterschied(teile, alt, true);
+    std::string neu;  // die Bytes [von, bis) des neuen Tags
+    size_t pos = 0;
+    for (auto t : teile) {
+        if (pos + t.size() > von && pos < bis)
+            neu.append(t.substr(von > pos ? von - pos : 0, std::min(bis, pos + t.size()) - std::max(von, pos)));
+        pos += t.size();
+    }
+    neu.resize(bis - von, '\0');  // dahinter Auffüllung
     int fd = ::open(pfad.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK);
     if (fd < 0) {
         fehlertext = TagSpeicherFehlerText("ID3v2", pfad, errno);
         return false;
     }
-    const std::string neu = vorn + std::string(static_cast<size_t>(padding), '\0');
-    struct stat st {};
-    std::string alt(neu.size(), '\0');
     int fehler = 0;
-    const ssize_t gelesen = ::fstat(fd, &st) == 0 ? ::pread(fd, alt.data(), alt.size(), 0) : -1;
-    if (gelesen < 0) fehler = errno;
     errno = 0;
-    if (fehler == 0 && ::pwrite(fd, neu.data(), neu.size(), 0) != static_cast<ssize_t>(neu.size())) {
+    if (::pwrite(fd, neu.data(), neu.size(), static_cast<off_t>(von)) != static_cast<ssize_t>(neu.size())) {
         fehler = errno != 0 ? errno : ENOSPC;
-        alt.resize(static_cast<size_t>(gelesen));
-        (void)!::pwrite(fd, alt.data(), alt.size(), 0);
-        (void)!::ftruncate(fd, st.st_size);
+        (void)!::pwrite(fd, alt.data() + von, bis - von, static_cast<off_t>(von));
     }
     if (::close(fd) != 0 && fehler == 0) fehler = errno;
     if (fehler != 0) fehlertext = TagSpeicherFehlerText("ID3v2", pfad, fehler);
@@ -150,29 +251,40 @@ bool MP3TagSpeichernV2Datei(Kartei& k, const std::string& dateiname, std::string
             "Die ID3v2-TAG der Datei '" + dateiname + "' konnte nicht gespeichert werden.\nDie Datei existiert nicht.";
         return false;
     }
-    std::string rahmen;
-    if (!RahmenBauen(info, rahmen) || rahmen.size() > std::numeric_limits<int32_t>::max() / 2) {
+    DateiInfo alt;
+    const bool gefunden = Mp3TAGLesenV2(dateiname, alt, k.E.TAGsBytesSuchen) && alt.Mp3_ID3v2_TAGGröße >= 0;
+    // Gearbeitet wird mit der wahren Ausdehnung des alten Tags, nicht mit der gelesenen Größe.
+    Id3v2Bestand bestand;
+    if (gefunden) Id3v2BestandLesen(dateiname, alt.Mp3_ID3v2_TAGPosition, bestand);
+    if (gefunden && !bestand.plausibel) {
+        fehlertext = "Der ID3v2-TAG konnte nicht gespeichert werden.\nDer ID3v2-TAG der Datei '" + dateiname +
+                     "' konnte nicht entfernt werden.\n" + kTagGrößeUnplausibel;
+        return false;
+    }
+    NeueRahmen rahmen;
+    if (!RahmenBauen(info, gefunden ? &alt : nullptr, gefunden ? &bestand : nullptr, rahmen) ||
+        rahmen.größe > std::numeric_limits<int32_t>::max() / 2) {
         fehlertext = "Der ID3v2-TAG der Datei '" + dateiname + "' konnte nicht gespeichert werden.\n" +
                      FehlerBeschreibung(9) + " (Fehler 9).";
         return false;
     }
-    const auto summe = static_cast<int64_t>(rahmen.size());
-
-    DateiInfo alt;
-    const bool gefunden = Mp3TAGLesenV2(dateiname, alt, k.E.TAGsBytesSuchen);
-    const int64_t altGröße = alt.Mp3_ID3v2_TAGGröße;
+    const int64_t summe = rahmen.größe;
+    const int64_t altGröße = bestand.ende - bestand.anfang;
     // Ein Tag, der nicht am ersten Byte steht, wird nie überschrieben, auch wenn der neue passte.
-    const bool neuSchreiben = !gefunden || altGröße < 0 || summe + 10 > altGröße || alt.Mp3_ID3v2_TAGPosition >= 2;
-    const bool altEntfernen = neuSchreiben && gefunden && altGröße >= 0;
+    const bool neuSchreiben = !gefunden || summe + 10 > altGröße || bestand.anfang > 0;
 
     const double anteil = (summe + 10) * double(k.E.TAGsProzentHinzufügen) / 100;
     int64_t padding = neuSchreiben ? static_cast<int64_t>(RundenGerade(anteil)) : altGröße - (summe + 10);
     padding = std::clamp<int64_t>(padding, 0, std::numeric_limits<int32_t>::max() / 2);  // nie ein Kopf, der lügt
-    const std::string vorn = Mp3TAGSpeichernV2TAGHeaderZurückgeben(static_cast<int32_t>(padding + summe)) + rahmen;
-    if (!neuSchreiben) return AnOrtUndStelle(dateiname, vorn, padding, fehlertext);
+    const std::string kopf = Mp3TAGSpeichernV2TAGHeaderZurückgeben(static_cast<int32_t>(padding + summe));
+    if (!neuSchreiben) {
+        rahmen.teile.insert(rahmen.teile.begin(), kopf);
+        return AnOrtUndStelle(dateiname, rahmen.teile, bestand.AlteBytes(), fehlertext);
+    }
+    const std::string vorn = kopf + rahmen.Zusammen();
 
     DateiRest rest{dateiname, {{0, DateiGrößeLesen(dateiname)}}};
-    if (altEntfernen && !TAGEntfernenV2(k, dateiname, eintrag, true, rest)) {
+    if (gefunden && !TAGEntfernenV2(k, dateiname, eintrag, true, rest)) {
         fehlertext = "Der ID3v2-TAG konnte nicht gespeichert werden.\nDer ID3v2-TAG der Datei '" + dateiname +
                      "' konnte nicht entfernt werden.";
         return false;
@@ -186,22 +298,14 @@ bool MP3TagSpeichernV2(Kartei& k, int32_t index, std::string& fehlertext, const 
 }
 
 namespace {
-// Was ohne den Tag bleibt: davor (ab Stelle 2) und dahinter.
-DateiRest RestOhneTag(const std::string& pfad, int64_t länge, int64_t position, int64_t größe) {
-    auto bereich = [&](int64_t von, int64_t bis) {
-        von = std::clamp<int64_t>(von, 0, länge);
-        bis = std::clamp<int64_t>(bis, von, länge);
-        return DateiBereich{von, bis - von};
-    };
+// Was ohne den Tag bleibt: davor und dahinter.
+DateiRest RestOhneTag(const std::string& pfad, int64_t länge, const Id3v2Bestand& tag) {
     DateiRest rest{pfad, {}};
-    if (position < 2) {
-        rest.bereiche.push_back(bereich(größe, länge));
-    } else {
-        rest.bereiche.push_back(bereich(0, position - 1));
-        rest.bereiche.push_back(bereich(position - 1 + größe, länge));
-    }
+    if (tag.anfang > 0) rest.bereiche.push_back({0, tag.anfang});
+    rest.bereiche.push_back({tag.ende, std::max<int64_t>(länge - tag.ende, 0)});
     return rest;
 }
+
 }  // namespace
 
 bool TAGEntfernenV2(Kartei& k, const std::string& dateiname, int32_t eintrag, bool nurZurückgeben, DateiRest& rest,
@@ -220,6 +324,12 @@ bool TAGEntfernenV2(Kartei& k, const std::string& dateiname, int32_t eintrag, bo
         k.ui.MeldungZeigen(kannNicht + "Diese enthält keinen ID3v2-TAG.", Meldung::Information);
         return false;
     }
+    Id3v2Bestand tag;
+    Id3v2BestandLesen(dateiname, datensatz.Mp3_ID3v2_TAGPosition, tag);
+    if (!tag.plausibel) {
+        k.ui.MeldungZeigen(kannNicht + kTagGrößeUnplausibel, Meldung::Ausrufezeichen);
+        return false;
+    }
     const std::string neu = dateiname + "-neu";
     if (DoesExist(neu) && !DateiLöschenErzwingen(neu)) {
         k.ui.MeldungZeigen("Der ID3v2-TAG konnte nicht entfernt werden.\nDie Datei '" + neu +
@@ -227,11 +337,11 @@ bool TAGEntfernenV2(Kartei& k, const std::string& dateiname, int32_t eintrag, bo
                            Meldung::Ausrufezeichen);
         return false;
     }
-    rest = RestOhneTag(dateiname, DateiGrößeLesen(dateiname), datensatz.Mp3_ID3v2_TAGPosition,
-                       datensatz.Mp3_ID3v2_TAGGröße);
+    rest = RestOhneTag(dateiname, DateiGrößeLesen(dateiname), tag);
     if (nurZurückgeben) return true;
 
-    const auto e = DateiNeuSchreiben(dateiname, neu, {}, 0, rest);
+    // Eine schreibgeschützte Datei bleibt, wie sie ist, auch wenn der Ordner das Ersetzen erlaubte.
+    const auto e = DateiBeschreibbarNeuSchreiben(dateiname, neu, rest);
     if (!TagEntfernenErgebnisMelden(k, "ID3v2", dateiname, e)) return false;
     const DateiInfo& basis = arbeitsdaten ? *arbeitsdaten : datensatz;
     DateiInfo aufgefrischt = MedienInfosLesen(k, dateiname, basis, "01", false, "1", "0");

@@ -2,7 +2,6 @@
 // Schreibt die Mp3_ID3v2_*-Felder als ID3v2.3.0-Tag in eine Datei, an Ort und Stelle oder durch
 // Neuschreiben über eine Datei daneben, und entfernt einen Tag.
 #include "app/DateiInfo.h"
-#include "app/EinsBasiert.h"
 #include "media/TagDatei.h"
 
 #include <cstdint>
@@ -15,14 +14,12 @@ struct Kartei;
 std::string Mp3TAGSpeichernV2TAGHeaderZurückgeben(int32_t größe);
 // Rahmenkopf: Kennung, Größe als 32-Bit-Zahl (höchstes Byte zuerst), zwei Flag-Bytes 0.
 std::string Mp3TAGSpeichernV2FrameHeaderZurückgeben(int32_t größe, const std::string& id);
-// Hängt einen Textrahmen (Kodierungsbyte 0 + text, Windows-1252) an, wenn text nicht leer ist
-// oder immerSchreiben gilt. Die Liste hat 19 Plätze; false, wenn kein Platz mehr frei ist.
-bool V2FrameAnhängen(const std::string& text, const std::string& id, int32_t& anzahl, EinsBasiert<std::string>& frames,
-                     bool immerSchreiben);
-
 // Schreibt den Tag. index ist eine Zeile (ab 1) der Ergebnisliste; die Datei-Form nimmt den
 // Pfad und den Tabelleneintrag (0 = keiner), den das Entfernen eines alten Tags auffrischt.
-// Bei false steht die Meldung in fehlertext; die Datei ist dann unverändert.
+// Gearbeitet wird mit der wahren Ausdehnung des alten Tags; Rahmen, deren Feld sich gegenüber
+// dem Gelesenen nicht ändert, und alle unbekannten bleiben Byte für Byte (2.2 und 2.4 in die
+// Form von 2.3 gebracht). Texte gehen in Windows-1252 hinaus, wenn sie hineinpassen, sonst in
+// UTF-16 mit BOM. Bei false steht die Meldung in fehlertext; die Datei ist dann unverändert.
 bool MP3TagSpeichernV2(Kartei& k, int32_t index, std::string& fehlertext, const DateiInfo& info);
 bool MP3TagSpeichernV2Datei(Kartei& k, const std::string& dateiname, std::string& fehlertext, const DateiInfo& info,
                             int32_t eintrag = 0);

@@ -130,6 +130,13 @@ NeuSchreibenErgebnis DateiNeuSchreiben(const std::string& zielPfad, const std::s
     return {NeuSchreibenSchritt::Fertig, 0, neu};
 }
 
+NeuSchreibenErgebnis DateiBeschreibbarNeuSchreiben(const std::string& ziel, const std::string& neu,
+                                                   const DateiRest& rest) {
+    int fehler = 0;
+    if (!DateiBeschreibbar(ziel, fehler)) return {NeuSchreibenSchritt::Anlegen, fehler, neu};
+    return DateiNeuSchreiben(ziel, neu, {}, 0, rest);
+}
+
 bool DateiBeschreibbar(const std::string& pfad, int& systemFehler) {
     int fd = ::open(pfad.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK);
     if (fd < 0) {

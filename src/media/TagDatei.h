@@ -40,6 +40,11 @@ struct NeuSchreibenErgebnis {
 NeuSchreibenErgebnis DateiNeuSchreiben(const std::string& ziel, const std::string& neu, std::string_view vorn,
                                        int64_t nullen, const DateiRest& rest);
 
+// Für das Entfernen eines Tags: eine schreibgeschützte Datei bleibt, wie sie ist, auch wenn der
+// Ordner das Ersetzen erlaubte (Schritt Anlegen mit dem Grund); sonst DateiNeuSchreiben ohne vorn.
+NeuSchreibenErgebnis DateiBeschreibbarNeuSchreiben(const std::string& ziel, const std::string& neu,
+                                                   const DateiRest& rest);
+
 // Nach dem Neuschreiben beim Entfernen eines Tags ("ID3v1" oder "ID3v2"): meldet ein Scheitern
 // mit dem Text seines Schritts. true, wenn das Neuschreiben gelang.
 bool TagEntfernenErgebnisMelden(Kartei& k, const char* version, const std::string& dateiname,

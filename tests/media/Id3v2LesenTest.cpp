@@ -108,11 +108,11 @@ TEST(Id3v2Lesen, RahmenDurchlauf) {
     EXPECT_EQ(g.d.Mp3_ID3v2_Benutzt, 10 + rahmen);
     EXPECT_EQ(g.d.Mp3_ID3v2_TAGGröße, 10 + rahmen + 30);
 
-    // Eine nicht leere Beschreibung bleibt im Text, ihr Ende verschwindet beim Bereinigen.
+    // Sprache und Beschreibung eines Kommentars bleiben vom Text getrennt, in jeder Kodierung.
     V2Tag b;
     b.rahmen = {Kommentar("COMM", "Text", "d")};
     Gelesen mitBeschreibung = Lesen(o, mpeg::Id3v2(b) + kAudio);
-    EXPECT_EQ(mitBeschreibung.d.Mp3_ID3v2_COMM, "engdText");
+    EXPECT_EQ(mitBeschreibung.d.Mp3_ID3v2_COMM, "Text");
     EXPECT_EQ(mitBeschreibung.d.Mp3_ID3v2_Benutzt, 0);  // ohne Auffüllung endet der Durchlauf am Ende
 
     V2Tag leer;

@@ -6,8 +6,13 @@
 #include <stdexcept>
 #include <stdlib.h>
 
-TestOrdner::TestOrdner() {
-    std::string vorlage = (std::filesystem::temp_directory_path() / "kk-test-XXXXXX").string();
+TestOrdner::TestOrdner() : TestOrdner(std::filesystem::temp_directory_path().string()) {}
+
+TestOrdner::TestOrdner(const std::string& basis) {
+    std::error_code fehler;
+    const bool da = std::filesystem::is_directory(basis, fehler);
+    std::string vorlage =
+        ((da ? std::filesystem::path(basis) : std::filesystem::temp_directory_path()) / "kk-test-XXXXXX").string();
     if (!mkdtemp(vorlage.data())) throw std::runtime_error("mkdtemp");
     pfad_ = vorlage;
 }

@@ -5,6 +5,8 @@
 class TestOrdner {
 public:
     TestOrdner();
+    // In basis, wenn es den Ordner gibt (etwa /dev/shm für viele kleine Schreibvorgänge).
+    explicit TestOrdner(const std::string& basis);
     ~TestOrdner();
     TestOrdner(const TestOrdner&) = delete;
     TestOrdner& operator=(const TestOrdner&) = delete;
