@@ -27,6 +27,9 @@ public:
     virtual bool WertLöschen(const std::string& name) = 0;
     // Schreibt gepufferte Änderungen (RegCloseKey); Standard: nichts zu tun.
     virtual bool Schließen() { return true; }
+    // Ein deutscher Hinweis, wenn der Speicher nicht gelesen werden konnte (es gelten dann die
+    // Vorgaben); sonst leer.
+    virtual std::string LeseHinweis() { return {}; }
     // Befehl der Standardanwendung des Desktops für audio/mpeg (an Stelle der Dateizuordnung
     // Winamp.File), Feldcodes wie %U schon entfernt; "" wenn es keine gibt.
     virtual std::string StandardAudioBefehl() = 0;

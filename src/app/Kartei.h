@@ -7,6 +7,7 @@
 #include "app/EinsBasiert.h"
 #include "app/Oberflaeche.h"
 #include "index/IndexOptionen.h"
+#include "index/IndexZugriff.h"
 #include "intake/AufnahmeZustand.h"
 #include "player/SpielerZustand.h"
 #include "search/SuchZustand.h"
@@ -54,6 +55,7 @@ struct Kartei {
     Datum LetzteSpeicherung;  // Programmstart bzw. letzte Speicherung
 
     IndexOptionen Optionen;
+    IndexDateiZugriff IndexZugriff;  // Sperre, Stand beim Laden, ob überhaupt ein Index geladen ist
     Einstellungen E;
     SuchZustand Suche;
     ListenZustand Liste;

@@ -11,7 +11,7 @@
 namespace {
 int TagAusführen(CliKontext& c, const std::vector<std::string>& argumente) {
     if (argumente.size() < 2) return GebrauchsFehler("tag braucht eine Datei und mindestens ein Feld Name=Wert.");
-    const bool mitIndex = MedienBefehlVorbereiten(c);
+    const IndexLage index = MedienBefehlVorbereiten(c);
     const std::string pfad = VollerDateiPfad(argumente[0]);
     DateiInfo d = MedienInfosLesen(c.k, pfad, DateiInfo{}, "11", false, "1", "1");
     bool v1 = false, v2 = false;
@@ -37,7 +37,7 @@ int TagAusführen(CliKontext& c, const std::vector<std::string>& argumente) {
         std::fprintf(stderr, "%s\n", fehler.c_str());
         rückgabe = 1;
     }
-    if (mitIndex && !IndexEintragAuffrischen(c.k, pfad)) rückgabe = 1;
+    if (!IndexNachführen(c, index, pfad)) rückgabe = 1;
     return rückgabe;
 }
 
@@ -54,13 +54,13 @@ int UntagAusführen(CliKontext& c, const std::vector<std::string>& argumente) {
         }
     }
     if (version.empty() || datei.empty()) return GebrauchsFehler("untag braucht --v1 oder --v2 und eine Datei.");
-    const bool mitIndex = MedienBefehlVorbereiten(c);
+    const IndexLage index = MedienBefehlVorbereiten(c);
     const std::string pfad = VollerDateiPfad(datei);
     DateiInfo arbeit;
     DateiRest rest;
     const bool gelungen =
         version == "--v1" ? TAGEntfernen(c.k, arbeit, pfad) : TAGEntfernenV2(c.k, pfad, 0, false, rest);
-    if (gelungen && mitIndex && !IndexEintragAuffrischen(c.k, pfad)) return 1;
+    if (gelungen && !IndexNachführen(c, index, pfad)) return 1;
     return gelungen ? 0 : 1;
 }
 }  // namespace

@@ -5,6 +5,8 @@
 #include <cstdio>
 
 CliKontext::CliKontext(std::string pfad, bool j) : indexPfad(std::move(pfad)), ja(j), ui(j), k(dienste.Mit(ui)) {
+    // Laden, Ändern, Speichern ist ein Vorgang: ein zweiter Aufruf wartet, statt dazwischenzufahren.
+    k.IndexZugriff.SperreHalten = true;
     // Wie beim Fensterstart, nur ohne Index auf der Zeile: den nennt --index.
     StartVorbereiten(k, {});
 }

@@ -1,4 +1,5 @@
 // klangkartei-cli: allgemeine Schalter lesen, Unterbefehl aufrufen.
+#include "app/HalbeDatei.h"
 #include "app/Version.h"
 #include "cli/AuswahlArgumente.h"
 #include "cli/Befehle.h"
@@ -25,6 +26,7 @@ void HilfeZeigen() {
 
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);  // für Pfade und D-Bus der Plattform
+    HalbeDateiSignaleEinrichten();
     std::string index;
     bool ja = false;
     // --index und --yes gelten überall auf der Zeile, der Rest gehört dem Befehl.

@@ -12,9 +12,11 @@ struct Kartei;
 // jeder andere Fehler wird still übergangen, der Rest der Datei gilt. Dateiname ist danach pfad.
 bool DateiLaden(Kartei& k, const std::string& pfad);
 
-// Schreibt Tabelle und Optionen erst nach pfad + "~" und ersetzt dann die alte Datei. true, wenn
-// die neue Datei unter pfad steht; sonst hat eine Meldung den Grund genannt (bei Abbruch keine),
-// und die alte Datei ist unberührt.
+// Schreibt Tabelle und Optionen in eine eigene temporäre Datei neben dem Ziel und ersetzt die alte
+// Datei erst, wenn die neue vollständig auf der Platte steht; dabei ist die Datei gegen andere
+// Programme gesperrt. Eine Verknüpfung bleibt Verknüpfung (ihr Ziel wird geschrieben), Rechte und
+// Besitzer bleiben. true, wenn die neue Datei unter pfad steht; sonst hat eine Meldung den Grund
+// genannt (bei Abbruch keine), und die alte Datei ist unberührt. Ohne geladenen Index: nichts.
 bool DateiSpeichern(Kartei& k, const std::string& pfad, bool mitFortschritt);
 // Ob ein Speichern den Fortschritt zeigt: mit Startbildschirm, außer er ist beim Speichern abbestellt.
 bool SpeichernMitFortschritt(const Kartei& k);
@@ -22,6 +24,10 @@ bool SpeichernMitFortschritt(const Kartei& k);
 bool IndexSpeichern(Kartei& k, const std::string& pfad);
 // Speichert den Index unter Dateiname, wenn er geändert ist; true auch, wenn nichts zu tun war.
 bool ÄnderungenSpeichern(Kartei& k);
+
+// Der Inhalt der Indexdatei in den offenen Deskriptor fd. Ergebnis 0 oder errno; abgebrochen,
+// wenn die Person im Fortschrittsfenster abgebrochen hat.
+int IndexTextSchreiben(Kartei& k, int fd, bool mitFortschritt, bool& abgebrochen);
 
 // "" für "0", sonst der Text selbst (Größen der Datensatzzeile).
 std::string_view GrößeText(std::string_view text);

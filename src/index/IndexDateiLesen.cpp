@@ -1,23 +1,35 @@
 #include "app/Kartei.h"
 #include "app/Pfade.h"
+#include "app/SystemFehler.h"
 #include "app/Tabelle.h"
 #include "app/Texte.h"
 #include "app/Zahlen.h"
 #include "app/BlockLeser.h"
 #include "index/IndexDatei.h"
 #include "index/IndexZeilen.h"
+#include "index/IndexZugriff.h"
 #include "index/Spalten.h"
 #include "intake/NichtVerfuegbar.h"
 #include "media/MedienInfos.h"
 #include "index/Dateitypen.h"
 #include "shell/Fortschritt.h"
 
+#include <cerrno>
 #include <chrono>
 #include <cstdint>
 #include <cstdio>
+#include <fcntl.h>
 #include <thread>
+#include <unistd.h>
 
 namespace {
+bool NichtLesbar(Kartei& k, const std::string& pfad, const std::string& grund) {
+    k.ui.MeldungZeigen("Die Indexdatei '" + pfad + "' kann nicht gelesen werden.\n" + grund +
+                           "\n\nEs wurde kein Index geladen; die Datei bleibt unverändert.",
+                       Meldung::Ausrufezeichen);
+    return false;
+}
+
 bool StartBildschirmBeimLaden(const Kartei& k) {
     return k.E.StartBildschirm == 1 && k.E.StartBildschirmNichtBeiLaden != 1;
 }
@@ -51,12 +63,28 @@ bool AufSpeichernWarten(Kartei& k, const std::string& pfad) {
     return true;
 }
 
-void LeereIndexdateiAnlegen(const std::string& pfad) {
-    if (DoesExist(pfad)) return;
-    if (std::FILE* f = std::fopen(pfad.c_str(), "wb")) {
-        std::fputs("#TAG:kk100\r\n", f);
-        std::fclose(f);
+// Eine fehlende Indexdatei wird angelegt (O_EXCL: nie über eine, die ein anderer gerade anlegt).
+bool LeereIndexdateiAnlegen(Kartei& k, const std::string& ziel, const std::string& pfad) {
+    const int fd = ::open(ziel.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (fd < 0) {
+        if (errno == EEXIST) return true;
+        return NichtLesbar(k, pfad, "Sie kann nicht angelegt werden: " + SystemFehlerText(errno) + ".");
     }
+    constexpr std::string_view kopf = "#TAG:kk100\r\n";
+    const bool gut = ::write(fd, kopf.data(), kopf.size()) == ssize_t(kopf.size());
+    const int fehler = gut ? 0 : errno;
+    ::close(fd);
+    return gut || NichtLesbar(k, pfad, "Sie kann nicht angelegt werden: " + SystemFehlerText(fehler) + ".");
+}
+
+// Nur eine gewöhnliche, lesbare Datei ist ein Index; alles andere wird weder gelesen noch ersetzt.
+bool LesbarPrüfen(Kartei& k, const std::string& ziel, const std::string& pfad) {
+    int fehler = 0;
+    const char art = DateiArtLesen(ziel, fehler);
+    if (art == '!' || art == '-') return NichtLesbar(k, pfad, SystemFehlerText(fehler) + ".");
+    if (art != 'f') return NichtLesbar(k, pfad, "Unter diesem Namen steht " + DateiArtText(art) + ".");
+    if (::access(ziel.c_str(), R_OK) != 0) return NichtLesbar(k, pfad, SystemFehlerText(errno) + ".");
+    return true;
 }
 
 // Formatnummer aus Zeile 1: 2, 1, 0 oder -1 (einfache Liste bzw. ungültig); false = abgelehnt.
@@ -169,12 +197,21 @@ bool DateiLaden(Kartei& k, const std::string& pfadEingang) {
     k.Dateiname = pfad;
     k.DateiAnzahl = 0;
     k.DateiGeändert = false;
+    k.IndexZugriff.NichtsGeladen = true;  // bis die Datei gelesen ist
+    k.IndexZugriff.geladen = IndexDateiStand{};
+    k.IndexZugriff.sperre.Lösen();
 
     if (!AufSpeichernWarten(k, pfad)) return false;
-    LeereIndexdateiAnlegen(pfad);
+    const std::string ziel = IndexZielAuflösen(pfad);
+    if (!LeereIndexdateiAnlegen(k, ziel, pfad) || !LesbarPrüfen(k, ziel, pfad)) return false;
+    // Geteilt gesperrt liest niemand eine halb ersetzte Datei; die Kommandozeile hält exklusiv.
+    IndexSperre sperre;
+    const bool halten = k.IndexZugriff.SperreHalten;
+    if (!IndexDateiSperren(k, ziel, pfad, halten, sperre)) return false;
+    const IndexDateiStand stand = IndexDateiStandLesen(ziel);
 
     BlockLeser leser;
-    leser.Öffnen(pfad);
+    if (!leser.Öffnen(ziel)) return NichtLesbar(k, pfad, SystemFehlerText(errno) + ".");
     std::string_view ansicht;
     const std::string zeile1 = leser.ZeileEinfach(ansicht) ? std::string(ansicht) : std::string();
     int format = -1;
@@ -195,6 +232,7 @@ bool DateiLaden(Kartei& k, const std::string& pfadEingang) {
     if (fortschritt) FortschrittZeigen(k, AufLong(leser.Länge()), "Lese Datei");
     TabelleZuschneiden(k, füller.anzahl);
     k.DateiAnzahl = füller.anzahl;
+    if (!halten) sperre.Lösen();  // gelesen ist gelesen; das Nachlesen der Medien hält niemanden auf
 
     if (format < 2 && k.Optionen.DateitypenLeer) {
         DateitypenVorgabenEinsetzen(k.Optionen);
@@ -203,6 +241,9 @@ bool DateiLaden(Kartei& k, const std::string& pfadEingang) {
     LückenFüllen(k, format);
 
     FortschrittZeigenEnde(k);
+    k.IndexZugriff.NichtsGeladen = false;
+    k.IndexZugriff.geladen = stand;
+    if (halten) k.IndexZugriff.sperre = std::move(sperre);
     bool fehler = false;
     SpaltenAnpassen(k, k.Liste.lstSongs, fehler);
     return true;

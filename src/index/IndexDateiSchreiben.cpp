@@ -11,7 +11,6 @@
 #include <charconv>
 #include <cstdio>
 #include <cstring>
-#include <fcntl.h>
 #include <unistd.h>
 
 namespace {
@@ -80,15 +79,10 @@ void DatensatzZeile(std::string& aus, const std::string& pfad, const DateiInfo& 
     aus.append("\r\n");
 }
 
-// Schreibt über einen großen Puffer in die temporäre Datei; merkt sich den ersten Fehler.
+// Schreibt über einen großen Puffer in die offene temporäre Datei; merkt sich den ersten Fehler.
 class Schreiber {
 public:
-    explicit Schreiber(const std::string& pfad)
-        : fd_(::open(pfad.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644)) {
-        if (fd_ < 0) fehler_ = errno;
-        puffer_.reserve(kPufferGröße + 64 * 1024);
-    }
-    ~Schreiber() { Schließen(); }
+    explicit Schreiber(int fd) : fd_(fd) { puffer_.reserve(kPufferGröße + 64 * 1024); }
     std::string& Puffer() { return puffer_; }
     // Eine Zeile mit CR LF; Werte ohne Umbrüche.
     void Zeile(std::string_view teil1, std::string_view wert = {}) {
@@ -100,18 +94,9 @@ public:
     void Prüfen() {
         if (puffer_.size() >= kPufferGröße) Leeren();
     }
-    bool Schließen() {
-        Leeren();
-        if (fd_ >= 0 && ::close(fd_) != 0 && fehler_ == 0) fehler_ = errno;
-        fd_ = -1;
-        return fehler_ == 0;
-    }
-    int Fehler() const { return fehler_; }
-
-private:
     void Leeren() {
         size_t geschrieben = 0;
-        while (fd_ >= 0 && fehler_ == 0 && geschrieben < puffer_.size()) {
+        while (fehler_ == 0 && geschrieben < puffer_.size()) {
             ssize_t n = ::write(fd_, puffer_.data() + geschrieben, puffer_.size() - geschrieben);
             if (n < 0 && errno == EINTR) continue;
             if (n <= 0) fehler_ = n < 0 ? errno : EIO;
@@ -119,7 +104,9 @@ private:
         }
         puffer_.clear();
     }
+    int Fehler() const { return fehler_; }
 
+private:
     int fd_;
     int fehler_ = 0;
     std::string puffer_;
@@ -166,15 +153,6 @@ void TermineSchreiben(const IndexOptionen& o, Schreiber& s) {
     }
 }
 
-bool Fehlermeldung(Kartei& k, int fehler) {
-    char text[256] = "";
-    const char* beschreibung = ::strerror_r(fehler, text, sizeof text);
-    k.ui.MeldungZeigen("Es ist ein Fehler beim Speichern der Indexdatei aufgetreten. (Fehler " +
-                           std::to_string(fehler) + ")\n" + beschreibung,
-                       Meldung::Ausrufezeichen);
-    FortschrittZeigenEnde(k);  // sonst bliebe das Hauptfenster gesperrt
-    return false;
-}
 }  // namespace
 
 std::string_view GrößeText(std::string_view text) { return text == "0" ? std::string_view() : text; }
@@ -185,49 +163,20 @@ std::string GenreAlsZahl(std::string_view text) {
     return text.empty() ? std::string() : std::to_string(static_cast<unsigned char>(text[0]));
 }
 
-bool DateiSpeichern(Kartei& k, const std::string& pfad, bool mitFortschritt) {
-    const std::string temp = pfad + "~";
-    if (!DateiLöschenEinfach(temp)) {
-        k.ui.MeldungZeigen("Die Indexdatei '" + pfad + "' konnte nicht gespeichert werden, da die temporäre Datei '" +
-                               pfad + "~' nicht überschrieben werden konnte.",
-                           Meldung::Ausrufezeichen);
-        return false;
-    }
-    if (mitFortschritt) {
-        FortschrittZeigenStarten(k, k.DateiAnzahl, true, true, false, "Speichere Indexdatei");
-        mitFortschritt = FortschrittFensterOffen(k);
-    }
-    Schreiber s(temp);
-    if (s.Fehler() != 0) return Fehlermeldung(k, s.Fehler());
+int IndexTextSchreiben(Kartei& k, int fd, bool mitFortschritt, bool& abgebrochen) {
+    abgebrochen = false;
+    Schreiber s(fd);
     s.Zeile("#TAG:kk102");
     OptionenSchreiben(k, s);
     TermineSchreiben(k.Optionen, s);
-    for (int32_t i = 1; i <= k.DateiAnzahl && i <= k.DateiDaten.UBound(); ++i) {
+    for (int32_t i = 1; i <= k.DateiAnzahl && i <= k.DateiDaten.UBound() && s.Fehler() == 0; ++i) {
         DatensatzZeile(s.Puffer(), k.DateiPfade[i], k.DateiDaten[i]);
         s.Prüfen();
         if (mitFortschritt && !FortschrittZeigen(k, i, "")) {
-            FortschrittZeigenEnde(k);
-            s.Schließen();
-            DateiLöschenEinfach(temp);
-            return false;
+            abgebrochen = true;
+            return 0;
         }
     }
-    if (!s.Schließen()) return Fehlermeldung(k, s.Fehler());
-    FortschrittZeigenEnde(k);
-
-    // rename ersetzt die alte Datei in einem Schritt: es gibt keinen Augenblick ohne Index.
-    if (::rename(temp.c_str(), pfad.c_str()) != 0) {
-        const int fehler = errno;
-        if (DoesExist(pfad) || IstOrdner(pfad)) {
-            k.ui.MeldungZeigen("Die Datei '" + pfad +
-                                   "' konnte nicht gespeichert werden, da die bestehende Datei nicht überschrieben "
-                                   "werden konnte.",
-                               Meldung::Ausrufezeichen);
-            return false;
-        }
-        return Fehlermeldung(k, fehler);
-    }
-    k.LetzteSpeicherung = k.uhr.Jetzt();
-    k.DateiGeändert = false;
-    return true;
+    s.Leeren();
+    return s.Fehler();
 }

@@ -14,7 +14,7 @@ bool RegelmäßigSpeichernPrüfen(Kartei& k) {
     const Datum jetzt = k.uhr.Jetzt();
     if (DatumDifferenz(Zeiteinheit::Minute, k.LetzteSpeicherung, jetzt) < k.E.RegelmäßigSpeichernAlle) return false;
     bool gespeichert = false;
-    if (k.DateiGeändert) {
+    if (k.DateiGeändert && !k.IndexZugriff.NichtsGeladen) {
         gespeichert = IndexSpeichern(k, k.Dateiname);
         if (gespeichert) k.ui.TitelNachrichtZeigen("Die Indexdatei wurde automatisch gespeichert", 0);
     }
@@ -24,7 +24,7 @@ bool RegelmäßigSpeichernPrüfen(Kartei& k) {
 }
 
 SchließenAktion SpeichernVorSchließenFragen(Kartei& k) {
-    if (!k.DateiGeändert) return SchließenAktion::OhneSpeichern;
+    if (!k.DateiGeändert || k.IndexZugriff.NichtsGeladen) return SchließenAktion::OhneSpeichern;
     if (k.E.DateiAutomatischSpeichern == 1) return SchließenAktion::Speichern;
     switch (
         k.ui.MeldungZeigen("Die Indexdatei wurde geändert.\nMöchten Sie diese speichern?", Meldung::JaNeinAbbrechen)) {

@@ -158,6 +158,7 @@ void SpaltenAnpassen(Kartei& k, Ergebnisliste& liste, bool& fehler) {
 }
 
 void SpaltenSpeichern(Kartei& k, const Ergebnisliste& liste) {
+    if (k.IndexZugriff.NichtsGeladen) return;  // ohne Index gibt es keine Anordnung zu merken
     std::string beschreibung;
     for (int32_t i = 1; i <= SpaltenAnzahl; ++i) {
         auto da = std::find_if(liste.spalten.begin(), liste.spalten.end(),

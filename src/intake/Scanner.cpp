@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <dirent.h>
+#include <set>
 #include <sys/stat.h>
 #include <utility>
 #include <vector>
@@ -39,15 +40,15 @@ bool EintragIstOrdner(const std::string& voll, unsigned char typ) {
 
 bool PunktOderPunktPunkt(const std::string& name) { return name == "." || name == ".."; }
 
-// Ordner auf dem Weg von der Suchwurzel bis hierher (Gerät, Knoten).
-using Kette = std::vector<std::pair<dev_t, ino_t>>;
+// Jeder schon betretene Ordner (Gerät, Knoten).
+using Betreten = std::set<std::pair<dev_t, ino_t>>;
 
 struct Durchlauf {
     Kartei& k;
     const EinsBasiert<std::string>& masken;
     int16_t unterordner;
     bool fortschrittBeachten;
-    Kette kette;
+    Betreten betreten;
 
     bool Weiter() { return !fortschrittBeachten || FortschrittZeigen(k, ""); }
 
@@ -65,15 +66,12 @@ struct Durchlauf {
 
     bool Ordner(std::string& pfad) {
         if (pfad.empty() || pfad.back() != '/') pfad += '/';
-        // Ein Verweis zurück auf einen Ordner dieses Weges liefe im Kreis: der zählt als leer.
+        // Jeder Ordner einmal: ein Verweis im Kreis liefe sonst ewig, zwei Verweise auf denselben
+        // Ordner brächten jede Datei darin doppelt. Ein schon betretener zählt als leer.
         struct stat st {};
         if (::stat(pfad.c_str(), &st) != 0) return true;
-        const std::pair<dev_t, ino_t> knoten{st.st_dev, st.st_ino};
-        if (std::find(kette.begin(), kette.end(), knoten) != kette.end()) return true;
-        kette.push_back(knoten);
-        const bool ergebnis = Durchsuchen(pfad);
-        kette.pop_back();
-        return ergebnis;
+        if (!betreten.insert({st.st_dev, st.st_ino}).second) return true;
+        return Durchsuchen(pfad);
     }
 
     bool Durchsuchen(const std::string& pfad) {

@@ -1,4 +1,5 @@
 #include "media/TagDatei.h"
+#include "app/HalbeDatei.h"
 
 #include "app/Kartei.h"
 
@@ -98,8 +99,10 @@ NeuSchreibenErgebnis DateiNeuSchreiben(const std::string& zielPfad, const std::s
     const std::string neu = ziel == zielPfad ? neuPfad : ziel + "-neu";
     struct stat st {};
     if (::stat(ziel.c_str(), &st) != 0) return {NeuSchreibenSchritt::Anlegen, errno, neu};
-    int aus = ::open(neu.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    // Gleich mit den Rechten der Datei: ein liegengebliebener Rest ist keine 0600-Überraschung.
+    int aus = ::open(neu.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, st.st_mode & 0777);
     if (aus < 0) return {NeuSchreibenSchritt::Anlegen, errno, neu};
+    HalbeDateiMerken(neu.c_str());
     int fehler = 0;
     auto schreiben = [&](const char* d, size_t n) { return AllesSchreiben(aus, d, n, fehler); };
     bool gut = AllesSchreiben(aus, vorn.data(), vorn.size(), fehler) && NullenSchreiben(aus, nullen, fehler) &&
@@ -117,9 +120,13 @@ NeuSchreibenErgebnis DateiNeuSchreiben(const std::string& zielPfad, const std::s
     if (::close(aus) != 0 && gut) scheitern();
     if (!gut) {
         ::unlink(neu.c_str());
+        HalbeDateiFertig();
         return {NeuSchreibenSchritt::Schreiben, fehler, neu};
     }
-    if (::rename(neu.c_str(), ziel.c_str()) != 0) return {NeuSchreibenSchritt::Ersetzen, errno, neu};
+    const bool ersetzt = ::rename(neu.c_str(), ziel.c_str()) == 0;
+    const int grund = errno;
+    HalbeDateiFertig();
+    if (!ersetzt) return {NeuSchreibenSchritt::Ersetzen, grund, neu};
     return {NeuSchreibenSchritt::Fertig, 0, neu};
 }
 

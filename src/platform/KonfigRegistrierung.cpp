@@ -1,14 +1,17 @@
 #include "platform/KonfigRegistrierung.h"
 
 #include "app/Pfade.h"
+#include "app/SystemFehler.h"
 #include "app/Zahlen.h"
 #include "platform/StandardAnwendung.h"
 #include "platform/Verzeichnisse.h"
 
 #include <QSaveFile>
 
-#include <fstream>
-#include <iterator>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <limits>
 #include <string_view>
 
@@ -77,6 +80,31 @@ bool DateiErsetzen(const std::string& ziel, const std::string& inhalt) {
 }
 }  // namespace
 
+namespace {
+constexpr off_t kGrößteEinstellungsdatei = off_t(4) << 20;
+
+// Nur eine gewöhnliche Datei mit vernünftiger Größe; nie warten (FIFO), nie ohne Ende lesen
+// (/dev/zero). 0, errno, oder EFBIG für zu groß. Eine fehlende Datei ist leer.
+int EinstellungsdateiLesen(const std::string& pfad, std::string& inhalt) {
+    const int fd = ::open(pfad.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0) return errno == ENOENT || errno == ENOTDIR ? 0 : errno;
+    struct stat st {};
+    int fehler = ::fstat(fd, &st) != 0 ? errno : S_ISDIR(st.st_mode) ? EISDIR : !S_ISREG(st.st_mode) ? ENODEV : 0;
+    if (fehler == 0 && st.st_size > kGrößteEinstellungsdatei) fehler = EFBIG;
+    char puffer[65536];
+    while (fehler == 0) {
+        const ssize_t n = ::read(fd, puffer, sizeof puffer);
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) fehler = errno;
+        if (n <= 0) break;
+        inhalt.append(puffer, size_t(n));
+        if (off_t(inhalt.size()) > kGrößteEinstellungsdatei) fehler = EFBIG;
+    }
+    ::close(fd);
+    return fehler;
+}
+}  // namespace
+
 KonfigRegistrierung::KonfigRegistrierung(std::string dateipfad) : pfad_(std::move(dateipfad)) {}
 
 KonfigRegistrierung::~KonfigRegistrierung() { Schließen(); }
@@ -84,8 +112,15 @@ KonfigRegistrierung::~KonfigRegistrierung() { Schließen(); }
 void KonfigRegistrierung::Laden() {
     if (geladen_) return;
     geladen_ = true;
-    std::ifstream ein(pfad_, std::ios::binary);
-    const std::string inhalt{std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>()};
+    std::string inhalt;
+    const int fehler = EinstellungsdateiLesen(pfad_, inhalt);
+    if (fehler != 0) {
+        hinweis_ = "Die Einstellungsdatei '" + pfad_ + "' kann nicht gelesen werden: " +
+                   (fehler == EFBIG ? std::string("sie ist größer als 4 MB und damit keine Einstellungsdatei")
+                                    : SystemFehlerText(fehler)) +
+                   ".\nEs gelten die Standard-Einstellungen; die Datei wird nicht verändert.";
+        return;
+    }
     std::string_view rest = inhalt;
     while (!rest.empty()) {
         const auto ende = rest.find('\n');
@@ -136,6 +171,8 @@ bool KonfigRegistrierung::WertLöschen(const std::string& name) {
 
 bool KonfigRegistrierung::Schließen() {
     if (!geändert_) return true;
+    Laden();
+    if (!hinweis_.empty()) return false;
     if (!OrdnerAnlegen(PfadZurückgeben(pfad_))) return false;
     std::string inhalt = "# Klangkartei-Einstellungen: Name=t:Text oder Name=z:Zahl\n";
     for (const auto& [name, w] : werte_)
@@ -143,6 +180,11 @@ bool KonfigRegistrierung::Schließen() {
     if (!DateiErsetzen(pfad_, inhalt)) return false;
     geändert_ = false;
     return true;
+}
+
+std::string KonfigRegistrierung::LeseHinweis() {
+    Laden();
+    return hinweis_;
 }
 
 std::string KonfigRegistrierung::StandardAudioBefehl() { return StandardAnwendungsBefehl("audio/mpeg"); }

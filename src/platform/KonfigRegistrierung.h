@@ -3,6 +3,8 @@
 // ($XDG_CONFIG_HOME/klangkartei/klangkartei.conf). Zeilen "Name=t:Text" oder "Name=z:Zahl",
 // damit ein Text, der wie eine Zahl aussieht, ein Text bleibt. Im Text stehen "\\", "\n" und
 // "\r" für Rückstrich, Zeilenumbruch und Wagenrücklauf. Kaputte Zeilen werden übergangen.
+// Gelesen wird nur eine gewöhnliche Datei bis 4 MB; ein Ordner, eine FIFO, ein Gerät oder eine
+// größere Datei gibt die Vorgaben und einen Hinweis, und sie wird nicht ersetzt.
 // Geschrieben wird erst bei Schließen(), über eine temporäre Datei daneben (QSaveFile).
 #include "app/Dienste.h"
 
@@ -24,6 +26,7 @@ public:
     bool WertLöschen(const std::string& name) override;
     bool Schließen() override;  // schreibt geänderte Werte; false, wenn das misslang
     std::string StandardAudioBefehl() override;
+    std::string LeseHinweis() override;
 
     const std::string& Dateipfad() const { return pfad_; }
 
@@ -34,4 +37,5 @@ private:
     std::map<std::string, RegistrierungsWert> werte_;
     bool geladen_ = false;
     bool geändert_ = false;
+    std::string hinweis_;  // die Datei war keine lesbare Einstellungsdatei: nichts überschreiben
 };

@@ -176,6 +176,9 @@ void ListeSpeichern(Kartei& k, const EinstellungsListe& l) {
 
 void EinstellungenLesen(Kartei& k) {
     for (const auto& e : EinstellungsTabelle()) TabellenwertLesen(k, e);
+    if (!k.E.RücksetzModus)
+        if (const std::string hinweis = k.registrierung.LeseHinweis(); !hinweis.empty())
+            k.ui.MeldungZeigen(hinweis, Meldung::Ausrufezeichen);
 
     if (k.E.Start == 0) SpielerPfadVorbelegen(k);
     Mp3TagLesenErgänzen(k.E.Mp3TagLesen);

@@ -125,3 +125,20 @@ TEST(Scanner, MaskeZähltZeichenNichtBytes) {
     EXPECT_FALSE(MaskePasst("\xC3\xA9", "."));             // ein Zeichen ist nicht länger als die Maske
     EXPECT_TRUE(MaskePasst("Lied_\xE4.mp3\xE4", ".mp3"));  // ein ungültiges Byte zählt als ein Zeichen
 }
+
+TEST(Scanner, JederOrdnerNurEinmal) {
+    TestUmgebung u;
+    TestOrdner o;
+    // Eine Kette von 14 Ordnern, jeder mit zwei Verweisen auf den nächsten; am Ende ein Lied.
+    for (int i = 0; i < 14; ++i) {
+        const std::string ordner = o / ("k" + std::to_string(i));
+        std::filesystem::create_directory(ordner);
+        for (const char* name : {"/a", "/b"})
+            std::filesystem::create_directory_symlink(o / ("k" + std::to_string(i + 1)), ordner + name);
+    }
+    DateiSchreiben(o / "k14/lied.mp3", "x");
+    std::string pfad = o / "k0";
+    SuchlisteHinzufügen(u.k, "", 1);
+    EXPECT_TRUE(DateienSuchenAPI(u.k, pfad, Masken({".mp3"}), 1, false));
+    EXPECT_EQ(Suchliste(u.k), std::vector<std::string>{o / "k0/a/a/a/a/a/a/a/a/a/a/a/a/a/a/lied.mp3"});
+}

@@ -1,4 +1,5 @@
 // Die Befehle info, tag und untag als Ganzes: Aufruf, Ausgabe, Rückgabe, Dateien danach.
+#include "app/Pfade.h"
 #include "media/Id3v1.h"
 #include "support/CliAufruf.h"
 #include "support/MpegDaten.h"
@@ -126,4 +127,18 @@ TEST(Befehle, TagFrischtDenIndexeintragAuf) {
     e = Aufruf(o, {"--index", o / "i.kkt", "show", "--entry", "1"});
     EXPECT_NE(e.aus.find("\nMp3_ID3v1_Titel=\n"), std::string::npos) << e.aus;
     EXPECT_NE(e.aus.find("\nMp3_ID3v1_Status=2\n"), std::string::npos);
+}
+
+TEST(Befehle, TagOhneNachgeführtenIndexeintragScheitert) {
+    TestOrdner o;
+    DateiSchreiben(o / "a.mp3", kAudio);
+    DateiSchreiben(o / "i.kkt", "Liste\r\n" + o / "a.mp3" + "\r\n");
+    ASSERT_EQ(Aufruf(o, {"--yes", "--index", o / "i.kkt", "save"}).rückgabe, 0);
+    DateiSchreiben(o / "i.kkt~", "Rest einer abgebrochenen Speicherung");  // die Frage beim Laden: Nein
+    const Ergebnis e = Aufruf(o, {"--index", o / "i.kkt", "tag", o / "a.mp3", "Mp3_ID3v1_Titel=Neu"});
+    EXPECT_EQ(e.rückgabe, 1);
+    EXPECT_NE(e.fehler.find("Der Eintrag von '" + o / "a.mp3" + "' im Index wurde nicht nachgeführt.\n"),
+              std::string::npos)
+        << e.fehler;
+    EXPECT_TRUE(DoesExist(o / "i.kkt~"));
 }

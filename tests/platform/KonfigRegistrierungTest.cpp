@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <sys/stat.h>
 
 using namespace std::string_literals;
 
@@ -130,4 +131,34 @@ TEST(KonfigRegistrierung, NichtSchreibbarerOrdnerVerliertDieWerteOhneAbsturz) {
     EinstellungenLesen(b.k);
     EXPECT_EQ(b.k.E.Mp3TagLesen, "101");
     EXPECT_EQ(DateiLesen(t / "datei"), "kein Ordner");
+}
+
+TEST(KonfigRegistrierung, NurEineGewöhnlicheDateiVernünftigerGröße) {
+    TestOrdner t;
+    std::filesystem::create_directory(t / "ordner.conf");
+    ::mkfifo((t / "rohr.conf").c_str(), 0644);  // ohne Schreiber: ein blockierendes Lesen hinge
+    std::filesystem::create_symlink("/dev/zero", t / "null.conf");
+    DateiSchreiben(t / "gross.conf", "Start=z:1\n" + std::string(size_t(5) << 20, '#'));
+    const std::pair<const char*, const char*> fälle[] = {
+        {"ordner.conf", "Es handelt sich um einen Ordner"},
+        {"rohr.conf", "Es ist keine gewöhnliche Datei"},
+        {"null.conf", "Es ist keine gewöhnliche Datei"},
+        {"gross.conf", "sie ist größer als 4 MB und damit keine Einstellungsdatei"}};
+    for (auto [name, grund] : fälle) {
+        KonfigUmgebung a(t / name);
+        EinstellungenLesen(a.k);
+        EXPECT_EQ(a.k.E.Start, 0) << name;  // die Vorgaben
+        EXPECT_EQ(a.k.E.Mp3TagLesen, "101") << name;
+        ASSERT_EQ(a.u.ui.meldungen.size(), 1u) << name;
+        EXPECT_EQ(a.u.ui.meldungen[0].text, "Die Einstellungsdatei '" + t / name +
+                                                "' kann nicht gelesen werden: " + grund +
+                                                ".\nEs gelten die Standard-Einstellungen; die Datei wird nicht "
+                                                "verändert.");
+        a.k.E.Start = 10;
+        EXPECT_FALSE(EinstellungenSpeichern(a.k)) << name;  // ersetzt nichts
+    }
+    EXPECT_TRUE(std::filesystem::is_directory(t / "ordner.conf"));
+    EXPECT_TRUE(std::filesystem::is_fifo(t / "rohr.conf"));
+    EXPECT_TRUE(std::filesystem::is_symlink(t / "null.conf"));
+    EXPECT_EQ(std::filesystem::file_size(t / "gross.conf"), 10 + (size_t(5) << 20));
 }
