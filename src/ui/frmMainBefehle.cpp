@@ -136,6 +136,7 @@ void frmMain::BefehlAusführen(const QString& name) {
     else if (name == QStringLiteral("cmdSucheLöschen")) cmdSucheLöschen_Click();
     else if (name == QStringLiteral("cmdSucheMehr")) cmdSucheMehr_Click();
     else if (name == QStringLiteral("cmdIndexStatistik")) IndexStatistikZeigen(this, k_);
+    else if (name == QStringLiteral("cmdIndexVerwaltung")) IndexVerwaltungZeigen(this, k_);
     else if (name == QStringLiteral("cmdExportieren")) {
         AuswahlAktualisieren();
         ExportierenZeigen(this, k_, AusgewählteDateien(), AusgewähltAnzahl());
