@@ -206,6 +206,12 @@ bool TexteGleich(std::string_view a, std::string_view b) {
 
 bool BeginntMitText(std::string_view text, std::string_view anfang) { return StehtAn(text, 0, anfang); }
 
+int32_t ErstesZeichenKlein(std::string_view text) {
+    if (text.empty()) return -1;
+    size_t pos = 0;
+    return KleinCp(CodepunktLesen(text, pos));
+}
+
 uint64_t NamenStreuwert(std::string_view text) {
     // Über die klein abgebildeten Codepunkte, die TexteGleich vergleicht: ASCII-Zeichen zu je
     // acht in einem Wort, jedes andere einzeln. Die Aufteilung hängt nur an den abgebildeten

@@ -37,6 +37,9 @@ bool TexteGleich(std::string_view a, std::string_view b);
 inline bool NamenGleich(std::string_view a, std::string_view b) { return TexteGleich(a, b); }
 // Beginnt text mit anfang, Groß/Klein egal? Ein leerer Anfang passt immer.
 bool BeginntMitText(std::string_view text, std::string_view anfang);
+// Der erste Codepunkt, klein abgebildet wie bei TexteGleich; -1 bei leerem Text. Ein schneller
+// Vorfilter für BeginntMitText über viele Einträge: ungleiche erste Zeichen passen nie.
+int32_t ErstesZeichenKlein(std::string_view text);
 // Streuwert passend zu TexteGleich/NamenGleich: gleiche Texte geben gleiche Werte. Für
 // Nachschlagetabellen, die sonst jeden Pfad mit jedem vergleichen müssten.
 uint64_t NamenStreuwert(std::string_view text);

@@ -10,14 +10,27 @@
 #include "shell/Fortschritt.h"
 #include "tags/AutoTag.h"
 #include "tags/TagDateien.h"
+#include "tags/TagFunktionen.h"
 
 #include <algorithm>
 
 namespace {
 // Nach einem Fehler: weiter mit der nächsten Datei? Die Antwort Nein beendet den Stapel.
+// fehler leer: die Funktion hat ihren Grund schon selbst gemeldet.
 bool Weitermachen(Kartei& k, const std::string& fehler) {
-    return k.ui.MeldungZeigen(fehler + "\nMöchten Sie mit der nächsten Datei fortfahren?", Meldung::JaNeinAusruf) ==
-           Meldung::Ja;
+    return k.ui.MeldungZeigen((fehler.empty() ? "" : fehler + "\n") + "Möchten Sie mit der nächsten Datei fortfahren?",
+                              Meldung::JaNeinAusruf) == Meldung::Ja;
+}
+
+// Die Funktion auf den Eintrag anwenden; 0 gelungen, 1 nicht (weiter), 2 abbrechen.
+int16_t Anwenden(Kartei& k, int32_t n, int32_t funktion, const std::string& format, int16_t modus, DateiInfo& arbeit) {
+    if (funktion == TagFunktionAutoTag) {
+        if (AutoTagVersuchen(k, k.DateiPfade[n], format, arbeit, k.DateiDaten[n], modus)) return 0;
+        return Weitermachen(k, "Es ist ein Fehler in der Funktion 'AutoTAG' aufgetreten.") ? 1 : 2;
+    }
+    arbeit = k.DateiDaten[n];
+    if (TagFunktionAnwenden(k, funktion, arbeit, modus)) return 0;
+    return Weitermachen(k, "") ? 1 : 2;
 }
 
 // Nach dem Schreiben eines Tags: bei einem Fehler die Meldung des Schreibers, dann die Frage.
@@ -52,9 +65,16 @@ int16_t AutoTagTagsSpeichern(Kartei& k, int32_t eintrag, const DateiInfo& arbeit
 
 AutoTagStapelErgebnis AutoTagStapel(Kartei& k, const std::vector<int32_t>& einträge, const std::string& format,
                                     int16_t modus) {
+    return TagFunktionStapel(k, einträge, TagFunktionAutoTag, format, modus);
+}
+
+AutoTagStapelErgebnis TagFunktionStapel(Kartei& k, const std::vector<int32_t>& einträge, int32_t funktion,
+                                        const std::string& format, int16_t modus) {
     AutoTagStapelErgebnis e;
     NichtVerfügbarFragenZurücksetzen(k);
-    FortschrittZeigenStarten(k, static_cast<int32_t>(einträge.size()), true, true, true, "AutoTAG");
+    const bool bekannt = funktion >= 0 && funktion < static_cast<int32_t>(TagFunktionen().size());
+    FortschrittZeigenStarten(k, static_cast<int32_t>(einträge.size()), true, true, true,
+                             bekannt ? TagFunktionen()[static_cast<size_t>(funktion)] : "");
     for (size_t i = 0; i < einträge.size() && !e.abgebrochen; ++i) {
         const int32_t n = einträge[i];
         if (!FortschrittZeigen(k, static_cast<double>(i), k.DateiPfade[n])) {
@@ -65,10 +85,8 @@ AutoTagStapelErgebnis AutoTagStapel(Kartei& k, const std::vector<int32_t>& eintr
         e.abgebrochen = verfügbar == 2;
         if (verfügbar != 0) continue;
         DateiInfo arbeit;
-        int16_t ergebnis = 0;
-        if (!AutoTagVersuchen(k, k.DateiPfade[n], format, arbeit, k.DateiDaten[n], modus))
-            ergebnis = Weitermachen(k, "Es ist ein Fehler in der Funktion 'AutoTAG' aufgetreten.") ? 1 : 2;
-        else ergebnis = AutoTagTagsSpeichern(k, n, arbeit, modus);
+        int16_t ergebnis = Anwenden(k, n, funktion, format, modus, arbeit);
+        if (ergebnis == 0) ergebnis = AutoTagTagsSpeichern(k, n, arbeit, modus);
         if (ergebnis == 0) ++e.gespeichert;
         else ++e.nichtGespeichert;
         e.abgebrochen = ergebnis == 2;

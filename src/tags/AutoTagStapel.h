@@ -24,3 +24,7 @@ struct AutoTagStapelErgebnis {
 // Datensatz als Ausgangsdaten, Tags speichern. Der Index selbst wird hier nicht gespeichert.
 AutoTagStapelErgebnis AutoTagStapel(Kartei& k, const std::vector<int32_t>& einträge, const std::string& format,
                                     int16_t modus);
+// Dasselbe für eine Funktion des Tag-Editors: 0 AutoTag mit format, 2 bis 9 (TagFunktionen.h).
+// Scheitert sie an einer Datei, wird gefragt, ob es weitergeht; die Datei bleibt dann, wie sie ist.
+AutoTagStapelErgebnis TagFunktionStapel(Kartei& k, const std::vector<int32_t>& einträge, int32_t funktion,
+                                        const std::string& format, int16_t modus);

@@ -45,6 +45,13 @@ TEST(Texte, VergleicheOhneGroßKlein) {
     EXPECT_EQ(InStr(1, "abcabc", "C"), 0);
     EXPECT_EQ(InStr(4, "abcabc", "c"), 6);
     EXPECT_EQ(InStrRev("a/b/c", "/"), 4);
+
+    // Der Vorfilter für BeginntMitText: gleich, wo der Vergleich gleich ist, -1 nur für leer.
+    EXPECT_EQ(ErstesZeichenKlein("Ärger"), ErstesZeichenKlein("ä"));
+    EXPECT_EQ(ErstesZeichenKlein("Abba"), 'a');
+    EXPECT_EQ(ErstesZeichenKlein(""), -1);
+    EXPECT_NE(ErstesZeichenKlein("\xFF"), -1);
+    EXPECT_NE(ErstesZeichenKlein("\xFF"), ErstesZeichenKlein("\xFE"));
 }
 
 TEST(Texte, SchneidenUndErsetzen) {
