@@ -80,6 +80,7 @@ private:
     void cmdAuswählen_Click();
     void cmdBeenden_Click();
     void cmdIndexStatistik_Click();
+    void cmdIndexVerwaltung_Click();
     void cmdExportieren_Click();
     void mnu_wählealle_Click();
     void mnu_wählekeine_Click();

@@ -43,7 +43,7 @@ void frmMain::BefehleAnlegen() {
     } tabelle[] = {
         {&B::cmdIndexErstellen, "cmdIndexErstellen", "Zum Index hinzufügen", &frmMain::cmdIndexErstellen_Click},
         {&B::cmdListeAufräumen, "cmdListeAufräumen", "Index synchronisieren", &frmMain::NichtEingebaut},
-        {&B::cmdIndexVerwaltung, "cmdIndexVerwaltung", "Index-Verwaltung", &frmMain::NichtEingebaut},
+        {&B::cmdIndexVerwaltung, "cmdIndexVerwaltung", "Index-Verwaltung", &frmMain::cmdIndexVerwaltung_Click},
         {&B::cmdIndexStatistik, "cmdIndexStatistik", "Index-Statistiken", &frmMain::cmdIndexStatistik_Click},
         {&B::cmdAutoDJ, "cmdAutoDJ", "AutoDJ", &frmMain::NichtEingebaut},
         {&B::cmdAuswählen, "cmdAuswählen", "Auswählen", &frmMain::cmdAuswählen_Click},
@@ -188,6 +188,8 @@ void frmMain::NichtEingebaut() {
 void frmMain::cmdBeenden_Click() { close(); }
 
 void frmMain::cmdIndexStatistik_Click() { IndexStatistikZeigen(this, k_); }
+
+void frmMain::cmdIndexVerwaltung_Click() { IndexVerwaltungZeigen(this, k_); }
 
 void frmMain::cmdExportieren_Click() {
     AuswahlAktualisieren();

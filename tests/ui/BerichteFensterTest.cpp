@@ -5,11 +5,14 @@
 #include "reports/Export.h"
 #include "support/TestOrdner.h"
 #include "ui/dialoge/frmExportieren.h"
+#include "ui/dialoge/frmIndexVerwaltung.h"
 #include "ui/dialoge/frmStatistik.h"
 
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QRadioButton>
 
 namespace {
@@ -34,6 +37,7 @@ class BerichteFensterTest : public QObject {
 private slots:
     void StatistikZeigtVierZeilen();
     void ExportierenPrueftUndSchreibt();
+    void IndexVerwaltungAktionJeDatei();
 };
 
 void BerichteFensterTest::StatistikZeigtVierZeilen() {
@@ -80,6 +84,34 @@ void BerichteFensterTest::ExportierenPrueftUndSchreibt() {
     QCOMPARE(u.meldungen.size(), size_t(1));  // nur die Frage nach dem Anzeigen
     QCOMPARE(QString::fromStdString(DateiLesen(o / "liste.csv")), QStringLiteral("\"Titel\"\r\n\"Lied\"\r\n"));
     QCOMPARE(u.k.E.ExportUntermodus, int16_t(2));
+}
+
+void BerichteFensterTest::IndexVerwaltungAktionJeDatei() {
+    GuiUmgebung u;
+    for (const char* pfad : {"/a/lied.mp3", "/b/Lied.mp3", "/c/LIED.mp3", "/d/anders.mp3"}) Eintrag(u.k, pfad);
+    frmIndexVerwaltung f(nullptr, u.k, {1, 2, 3, 4});
+    f.show();
+    QCOMPARE(f.windowTitle(), QStringLiteral("Indexverwaltung"));
+    QVERIFY(!Drücken(f, "cmdSuchen"));  // erst mit einer Methode
+    f.findChild<QComboBox*>(QStringLiteral("cboSuchmethode"))->setCurrentIndex(0);
+    QVERIFY(Drücken(f, "cmdSuchen"));
+    auto* liste = f.findChild<QListWidget*>(QStringLiteral("lstEinträge"));
+    QCOMPARE(liste->count(), 2);
+    QCOMPARE(liste->item(1)->text(), QStringLiteral("'Lied.mp3' und 'LIED.mp3' haben die gleichen Dateinamen"));
+    QCOMPARE(f.findChild<QLabel*>(QStringLiteral("lblGefundenAnzahl"))->text(), QStringLiteral("2 Datei(en) gefunden"));
+    // Zeile 0 ist gewählt: die rechte Datei (Eintrag 2) bekommt "Datei löschen".
+    auto* cboAktion2 = f.findChild<QComboBox*>(QStringLiteral("cboAktion2"));
+    cboAktion2->setCurrentIndex(1);
+    emit cboAktion2->activated(1);
+    // In Zeile 1 steht dieselbe Datei links und zeigt ihre Aktion.
+    liste->setCurrentRow(1);
+    QCOMPARE(f.findChild<QComboBox*>(QStringLiteral("cboAktion1"))->currentIndex(), 1);
+    QCOMPARE(f.findChild<QLabel*>(QStringLiteral("lblDatei1"))->text(), QStringLiteral("Dateiname - Eintrag 2"));
+    Foto(f, "frmIndexVerwaltung.png");
+    u.antworten = {Meldung::Nein};
+    QVERIFY(Drücken(f, "cmdOk"));
+    QCOMPARE(u.meldungen.size(), size_t(1));
+    QCOMPARE(f.Stand().GefundenAktionen, (std::vector<int32_t>{0, 0, 1, 0, 0}));
 }
 
 int BerichteFensterTestAusführen(int argc, char** argv) {

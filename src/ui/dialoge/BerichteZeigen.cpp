@@ -1,6 +1,8 @@
 #include "ui/dialoge/BerichteZeigen.h"
 
+#include "app/Kartei.h"
 #include "ui/dialoge/frmExportieren.h"
+#include "ui/dialoge/frmIndexVerwaltung.h"
 #include "ui/dialoge/frmStatistik.h"
 
 void IndexStatistikZeigen(QWidget* besitzer, const Kartei& k) {
@@ -12,5 +14,12 @@ void ExportierenZeigen(QWidget* besitzer, Kartei& k, const EinsBasiert<int32_t>&
     std::vector<int32_t> liste;
     for (int32_t i = 1; i <= anzahl && gewählt.GültigerIndex(i); ++i) liste.push_back(gewählt[i]);
     frmExportieren dialog(besitzer, k, std::move(liste));
+    dialog.exec();
+}
+
+void IndexVerwaltungZeigen(QWidget* besitzer, Kartei& k) {
+    std::vector<int32_t> liste;
+    for (const auto& zeile : k.Liste.lstSongs.zeilen) liste.push_back(zeile.eintrag);
+    frmIndexVerwaltung dialog(besitzer, k, std::move(liste));
     dialog.exec();
 }
