@@ -18,7 +18,9 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
     if (frei.size() != 2 || !NummerLesen(frei[0], nummer)) return GebrauchsFehler("Aufruf: field N FELD [--sortform]");
     if (!IndexFürBefehlLaden(c)) return 1;
     std::vector<int32_t> gewählt;
-    if (!AuswahlAnwenden(c, EintragsAuswahl{{nummer}}, gewählt)) return 1;
+    EintragsAuswahl auswahl;
+    auswahl.einträge = {nummer};
+    if (!AuswahlAnwenden(c, auswahl, gewählt)) return 1;
     std::string wert;
     int16_t art = 0;
     if (!IndexFeldZurückgeben(c.k, nummer, frei[1], sortierForm ? "1" : "", wert, art)) {
