@@ -2,9 +2,14 @@
 // Ein Knopf der Dialoge: Name für Tests und Verdrahtung, Text mit Kürzel, nie von selbst Vorgabe.
 #include <QPushButton>
 
+// Gibt einem Steuerelement seinen Namen (für Tests und Verdrahtung) und reicht es weiter.
+template <typename T> T* Benannt(T* element, const char* name) {
+    element->setObjectName(QString::fromUtf8(name));
+    return element;
+}
+
 inline QPushButton* Knopf(QWidget* eltern, const char* name, const char* text) {
-    auto* k = new QPushButton(QString::fromUtf8(text), eltern);
-    k->setObjectName(QString::fromUtf8(name));
+    auto* k = Benannt(new QPushButton(QString::fromUtf8(text), eltern), name);
     k->setAutoDefault(false);
     return k;
 }

@@ -18,9 +18,7 @@
 
 namespace {
 QRadioButton* Option(QWidget* eltern, const char* name, const char* text) {
-    auto* o = new QRadioButton(QString::fromUtf8(text), eltern);
-    o->setObjectName(QString::fromUtf8(name));
-    return o;
+    return Benannt(new QRadioButton(QString::fromUtf8(text), eltern), name);
 }
 }  // namespace
 

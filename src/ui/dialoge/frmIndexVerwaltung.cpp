@@ -14,15 +14,13 @@
 
 namespace {
 QLabel* Feld(QWidget* eltern, const char* name) {
-    auto* l = new QLabel(eltern);
-    l->setObjectName(QString::fromUtf8(name));
+    auto* l = Benannt(new QLabel(eltern), name);
     l->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return l;
 }
 
 QComboBox* AktionsListe(QWidget* eltern, const char* name) {
-    auto* c = new QComboBox(eltern);
-    c->setObjectName(QString::fromUtf8(name));
+    auto* c = Benannt(new QComboBox(eltern), name);
     for (const auto& t : AktionenTexte()) c->addItem(Q(t));
     return c;
 }
