@@ -8,12 +8,13 @@
 
 // Schalter der Meldungsfenster und ihre Antworten.
 namespace Meldung {
-constexpr int Ausrufezeichen = 48;   // OK, Ausrufezeichen
-constexpr int Information = 64;      // OK, Information
-constexpr int JaNeinAusruf = 52;     // Ja/Nein, Ausrufezeichen
-constexpr int JaNeinFrage = 36;      // Ja/Nein, Frage
-constexpr int JaNeinAbbrechen = 35;  // Ja/Nein/Abbrechen, Frage
-constexpr int JaNeinStopp = 308;     // Ja/Nein, Stopp, zweiter Knopf vorgewählt
+constexpr int Ausrufezeichen = 48;    // OK, Ausrufezeichen
+constexpr int Information = 64;       // OK, Information
+constexpr int JaNeinAusruf = 52;      // Ja/Nein, Ausrufezeichen
+constexpr int JaNeinFrage = 36;       // Ja/Nein, Frage
+constexpr int JaNeinAbbrechen = 35;   // Ja/Nein/Abbrechen, Frage
+constexpr int JaNeinStopp = 308;      // Ja/Nein, Stopp, zweiter Knopf vorgewählt
+constexpr int JaNeinFrageNein = 292;  // Ja/Nein, Frage, zweiter Knopf vorgewählt
 constexpr int Ok = 1, Abbrechen = 2, Ja = 6, Nein = 7;
 }  // namespace Meldung
 

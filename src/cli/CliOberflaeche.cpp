@@ -10,6 +10,7 @@ int Antwort(int schalter, bool ja) {
     switch (schalter) {
     case JaNeinAusruf:
     case JaNeinFrage:
+    case JaNeinFrageNein:
     case JaNeinStopp: return ja ? Ja : Nein;
     case JaNeinAbbrechen: return ja ? Ja : Abbrechen;
     default: return Ok;

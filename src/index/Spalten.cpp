@@ -180,3 +180,22 @@ std::vector<SpaltenWahl> OptionenSpaltenEinsetzen(Kartei& k) {
     for (const auto& p : posten) wahl.push_back({p.nummer, SpaltenName(p.nummer), p.breite > 0});
     return wahl;
 }
+
+std::string SpaltenBeschreibungAusWahl(Kartei& k, const std::vector<SpaltenWahl>& wahl) {
+    std::vector<SpaltenPosten> vorher;
+    SpaltenBeschreibungLesen(k, vorher, "SpaltenBeschreibungAusWahl");
+    std::string beschreibung;
+    int32_t sichtbar = 0;
+    for (const auto& w : wahl) {
+        int32_t breite = 0;
+        if (w.angehakt) {
+            auto alt = std::find_if(vorher.begin(), vorher.end(),
+                                    [&](const SpaltenPosten& p) { return p.nummer == w.nummer; });
+            breite = alt != vorher.end() && alt->breite > 0 ? alt->breite : kVorgabeBreite;
+            ++sichtbar;
+        }
+        if (!beschreibung.empty()) beschreibung += ",";
+        beschreibung += Posten(w.nummer, breite, w.angehakt ? sichtbar : 0);
+    }
+    return beschreibung;
+}

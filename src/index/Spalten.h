@@ -47,3 +47,7 @@ struct SpaltenWahl {
     bool angehakt = false;
 };
 std::vector<SpaltenWahl> OptionenSpaltenEinsetzen(Kartei& k);
+// Die Beschreibung aus der Auswahlliste, in ihrer Reihenfolge: eine angehakte Spalte behält ihre
+// bisherige Breite (ohne eine 1400), eine nicht angehakte bekommt 0. Position = laufende Zahl der
+// angehakten.
+std::string SpaltenBeschreibungAusWahl(Kartei& k, const std::vector<SpaltenWahl>& wahl);

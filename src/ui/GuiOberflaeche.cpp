@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -74,6 +75,11 @@ int GuiOberfläche::MeldungZeigen(const std::string& text, int schalter) {
         symbol = QMessageBox::Question;
         knöpfe = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
         vorgabe = QMessageBox::Yes;
+        break;
+    case JaNeinFrageNein:
+        symbol = QMessageBox::Question;
+        knöpfe = QMessageBox::Yes | QMessageBox::No;
+        vorgabe = QMessageBox::No;
         break;
     case JaNeinStopp:
         symbol = QMessageBox::Critical;
@@ -150,6 +156,14 @@ bool GuiOberfläche::OrdnerWählen(const std::string& titel, std::string& ordner
     QString neu = QFileDialog::getExistingDirectory(SichtbarerBesitzer(), Q(titel), Q(ordner));
     if (neu.isEmpty()) return false;
     ordner = S(neu);
+    return true;
+}
+
+bool GuiOberfläche::FarbeWählen(int32_t& farbe) {
+    if (farbSkript) return farbSkript(farbe);
+    const QColor neu = QColorDialog::getColor(FarbeAusWert(farbe), SichtbarerBesitzer());
+    if (!neu.isValid()) return false;
+    farbe = WertAusFarbe(neu);
     return true;
 }
 

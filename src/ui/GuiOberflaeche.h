@@ -43,6 +43,8 @@ public:
                                  std::string& datei);
     // Eine vorhandene Datei wählen; false = Abbrechen.
     bool DateiWählen(const std::string& titel, const std::string& filter, const std::string& start, std::string& datei);
+    // Eine Farbe wählen (Farbwert wie gespeichert, Rot im niedrigsten Byte); false = Abbrechen.
+    bool FarbeWählen(int32_t& farbe);
     QWidget* Besitzer() const { return besitzer_ ? besitzer_() : nullptr; }
     // Der Besitzer, wenn er zu sehen ist: ein Fenster ohne Besitzer steht in der Mitte des
     // Bildschirms statt an einem Hauptfenster, das noch gar nicht gezeigt wird.
@@ -58,6 +60,7 @@ public:
     std::function<void(QDialog&)> dialogSkript;
     std::function<bool(std::vector<std::string>&)> dateienSkript;  // DateienWählen, DateiWählen, Speichern
     std::function<bool(std::string&)> ordnerSkript;
+    std::function<bool(int32_t&)> farbSkript;
 
 private:
     std::function<QWidget*()> besitzer_;

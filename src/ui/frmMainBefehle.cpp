@@ -9,6 +9,8 @@
 #include "ui/SongListe.h"
 #include "ui/Umrechnung.h"
 #include "ui/dialoge/BerichteZeigen.h"
+#include "ui/dialoge/frmOptionen.h"
+#include "ui/Farben.h"
 #include "ui/frmMain.h"
 
 #include <QAction>
@@ -58,7 +60,7 @@ void frmMain::BefehleAnlegen() {
         {&B::cmdDateienKopierenVerschieben, "cmdDateienKopierenVerschieben", "Kopieren/verschieben",
          &frmMain::NichtEingebaut},
         {&B::cmdUmbenennen, "cmdUmbenennen", "Umbenennen", &frmMain::NichtEingebaut},
-        {&B::cmdOptionen, "cmdOptionen", "Optionen", &frmMain::NichtEingebaut},
+        {&B::cmdOptionen, "cmdOptionen", "Optionen", &frmMain::cmdOptionen_Click},
         {&B::cmdHilfe, "cmdHilfe", "Hilfe", &frmMain::NichtEingebaut},
         {&B::cmdInfo, "cmdInfo", "Infos", &frmMain::NichtEingebaut},
         {&B::cmdBeenden, "cmdBeenden", "Ende", &frmMain::cmdBeenden_Click},
@@ -194,6 +196,17 @@ void frmMain::cmdIndexVerwaltung_Click() { IndexVerwaltungZeigen(this, k_); }
 void frmMain::cmdExportieren_Click() {
     AuswahlAktualisieren();
     ExportierenZeigen(this, k_, AusgewählteDateien(), AusgewähltAnzahl());
+}
+
+// Auch nach Abbrechen: Zurücksetzen und Index-Optionen gelten schon.
+void frmMain::cmdOptionen_Click() {
+    frmOptionen dialog(this, k_, ui_);
+    dialog.indexÖffnen = [this] { lblIndexdatei_Click(); };
+    dialog.farbenAnwenden = [this] { FarbenAnwenden(); };
+    ui_.DialogAusführen(dialog);
+    FarbenAnwenden();
+    OffeneFensterEinfärben(k_.E);
+    ListeAnzeigen();
 }
 
 void frmMain::cmdAuswählen_Click() {

@@ -5,6 +5,7 @@
 #include "platform/Verzeichnisse.h"
 #include "shell/Fortschritt.h"
 #include "ui/Anwendung.h"
+#include "ui/Farben.h"
 #include "ui/GuiOberflaeche.h"
 #include "ui/Programmstart.h"
 #include "ui/frmMain.h"
@@ -26,6 +27,7 @@ int main(int argc, char** argv) {
     };
     Kartei k(dienste.Mit(ui));
     ui.fortschrittAbbrechen = [&k] { FortschrittAbbrechenGedrückt(k); };
+    app.installEventFilter(new FarbenWächter(k.E, &app));
 
     std::vector<std::string> argumente;
     for (int i = 1; i < argc; ++i) argumente.emplace_back(QString::fromLocal8Bit(argv[i]).toStdString());
