@@ -19,8 +19,8 @@ const std::vector<FarbProfil>& FarbProfile() {
 }
 
 Farbsatz FarbsatzAusEinstellungen(const Einstellungen& e) {
-    return {e.FarbeFunktionen,    e.FarbeFunktionenHintergrund, e.FarbeListen,
-            e.FarbeListenHintergrund, e.FarbeÜberschrift,       e.FarbeBeschreibungen,
+    return {e.FarbeFunktionen,        e.FarbeFunktionenHintergrund, e.FarbeListen,
+            e.FarbeListenHintergrund, e.FarbeÜberschrift,           e.FarbeBeschreibungen,
             e.FarbeFunktionenBesucht, e.FunktionenUnterstreichen};
 }
 

@@ -46,8 +46,7 @@ bool Prüfen(Kartei& k, const IndexOptionenEingabe& e) {
     if (std::none_of(e.spalten.begin(), e.spalten.end(), [](const SpaltenWahl& s) { return s.angehakt; }))
         return Informieren(k, "Bitte wählen Sie mindestens eine Spalte zur Anzeige aus.");
     if (e.txtSpaltenBenutzerFormat.empty())
-        return Informieren(
-            k, "Bitte geben Sie einen Text in das Feld 'Format der benutzerdefinierten Spalte' ein.");
+        return Informieren(k, "Bitte geben Sie einen Text in das Feld 'Format der benutzerdefinierten Spalte' ein.");
     for (const auto& z : e.typen) {
         if (z.endung.empty())
             return Informieren(
@@ -95,7 +94,8 @@ IndexOptionenEingabe IndexOptionenEinsetzen(Kartei& k) {
     DateitypenVorgabenWennLeer(k.Optionen);
     const IndexOptionen& o = k.Optionen;
     for (int32_t i = 1; i <= o.DateitypEintrag.UBound(); ++i)
-        e.typen.push_back(ZeileAusEintrag(o.DateitypEintrag[i], o.DateitypKlasse.GültigerIndex(i) ? o.DateitypKlasse[i] : "000"));
+        e.typen.push_back(
+            ZeileAusEintrag(o.DateitypEintrag[i], o.DateitypKlasse.GültigerIndex(i) ? o.DateitypKlasse[i] : "000"));
     if (!o.SyncLeer)
         for (int32_t i = 1; i <= o.SyncOrdner.UBound(); ++i) {
             SyncZeile z;

@@ -17,17 +17,45 @@
 #include <string_view>
 
 namespace {
-constexpr std::array<std::string_view, 39> kAufSeiten = {
-    "Dateiname", "Mp3TagLesen", "WinampPfad", "WinampParameterAbspielen", "WinampParameterHinzufügen",
-    "DateiAutomatischSpeichern", "HinzufügenKeineDoppelten", "HinzufügenUnterordner", "StartBildschirm",
-    "AutoTagFelderLöschen", "AutoTagLeer", "PlaylistFürWinamp", "BeiDoppelklick", "TAGAutomatischSpeichern",
-    "AutoTagUnterstrichEntfernen", "AutoTagAusschlußLeer", "NichtVerfügbarFragen", "FarbeFunktionen",
-    "FarbeFunktionenHintergrund", "FarbeListen", "FarbeListenHintergrund", "FarbeÜberschrift",
-    "FarbeBeschreibungen", "FarbeFunktionenBesucht", "FunktionenUnterstreichen", "AutoCompleteVerwenden",
-    "Auswahlliste", "BeendenReaktion", "RegelmäßigSpeichernAlle", "AbspielStatistikSpeichern",
-    "SucheNichtBeiAuswahl", "SucheNichtBeiTAGEditor", "StartBildschirmNichtBeiSpeichern",
-    "StartBildschirmNichtBeiLaden", "TAGsProzentHinzufügen", "TAGsBytesSuchen", "TippsAktueller",
-    "TAGAutomatischSpeichernV2", "TAGsSoftwareFeldSchreiben"};
+constexpr std::array<std::string_view, 39> kAufSeiten = {"Dateiname",
+                                                         "Mp3TagLesen",
+                                                         "WinampPfad",
+                                                         "WinampParameterAbspielen",
+                                                         "WinampParameterHinzufügen",
+                                                         "DateiAutomatischSpeichern",
+                                                         "HinzufügenKeineDoppelten",
+                                                         "HinzufügenUnterordner",
+                                                         "StartBildschirm",
+                                                         "AutoTagFelderLöschen",
+                                                         "AutoTagLeer",
+                                                         "PlaylistFürWinamp",
+                                                         "BeiDoppelklick",
+                                                         "TAGAutomatischSpeichern",
+                                                         "AutoTagUnterstrichEntfernen",
+                                                         "AutoTagAusschlußLeer",
+                                                         "NichtVerfügbarFragen",
+                                                         "FarbeFunktionen",
+                                                         "FarbeFunktionenHintergrund",
+                                                         "FarbeListen",
+                                                         "FarbeListenHintergrund",
+                                                         "FarbeÜberschrift",
+                                                         "FarbeBeschreibungen",
+                                                         "FarbeFunktionenBesucht",
+                                                         "FunktionenUnterstreichen",
+                                                         "AutoCompleteVerwenden",
+                                                         "Auswahlliste",
+                                                         "BeendenReaktion",
+                                                         "RegelmäßigSpeichernAlle",
+                                                         "AbspielStatistikSpeichern",
+                                                         "SucheNichtBeiAuswahl",
+                                                         "SucheNichtBeiTAGEditor",
+                                                         "StartBildschirmNichtBeiSpeichern",
+                                                         "StartBildschirmNichtBeiLaden",
+                                                         "TAGsProzentHinzufügen",
+                                                         "TAGsBytesSuchen",
+                                                         "TippsAktueller",
+                                                         "TAGAutomatischSpeichernV2",
+                                                         "TAGsSoftwareFeldSchreiben"};
 
 const char* const kReserveFeld = "'Prozent des neuen TAGs in Bytes hinzufügen'";
 const char* const kSuchenFeld = "'Bytes vom Datei-Anfang an nach TAG suchen'";
@@ -82,7 +110,8 @@ OptionenEingabe OptionenEinsetzen(const Kartei& k) {
     e.chkID3auslesenV2 = SchalterAn(k.E.Mp3TagLesen, 2);
     e.chkID3auslesenHeader = SchalterAn(k.E.Mp3TagLesen, 3);
     for (const auto& eintrag : EinstellungsTabelle())
-        if (!EinstellungAufEigenerSeite(eintrag.name)) e.weitere.emplace_back(eintrag.name, EinstellungAlsText(k, eintrag));
+        if (!EinstellungAufEigenerSeite(eintrag.name))
+            e.weitere.emplace_back(eintrag.name, EinstellungAlsText(k, eintrag));
     return e;
 }
 
@@ -170,8 +199,8 @@ bool AlleDateienNeuEinlesen(Kartei& k) {
 }
 
 bool OptionenZurücksetzen(Kartei& k) {
-    if (k.ui.MeldungZeigen("Möchten Sie tatsächlich alle Programmeinstellungen zurücksetzen?", Meldung::JaNeinFrageNein) !=
-        Meldung::Ja)
+    if (k.ui.MeldungZeigen("Möchten Sie tatsächlich alle Programmeinstellungen zurücksetzen?",
+                           Meldung::JaNeinFrageNein) != Meldung::Ja)
         return false;
     EinstellungenZurücksetzen(k);
     return true;

@@ -60,7 +60,7 @@ TEST(IndexOptionen, EingebauteZeilenSindGeschuetzt) {
     u.ui.antworten = {Meldung::Nein, Meldung::Ja};
     EXPECT_FALSE(DateitypEntfernen(u.k, e, -1));
     EXPECT_FALSE(DateitypEntfernen(u.k, e, mp3));
-    EXPECT_FALSE(DateitypEntfernen(u.k, e, 13));  // "*"
+    EXPECT_FALSE(DateitypEntfernen(u.k, e, 13));   // "*"
     EXPECT_FALSE(DateitypEntfernen(u.k, e, neu));  // Nein
     EXPECT_EQ(e.typen.size(), 14u);
     EXPECT_TRUE(DateitypEntfernen(u.k, e, neu));

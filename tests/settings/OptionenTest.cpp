@@ -14,10 +14,12 @@
 #include <algorithm>
 
 namespace {
-const std::string kReserveZahl = "Bitte geben Sie eine Zahl in das Feld 'Prozent des neuen TAGs in Bytes hinzufügen' ein.";
+const std::string kReserveZahl =
+    "Bitte geben Sie eine Zahl in das Feld 'Prozent des neuen TAGs in Bytes hinzufügen' ein.";
 const std::string kReserveBereich =
     "Bitte geben Sie eine Zahl zwischen 0 und 100 in das Feld 'Prozent des neuen TAGs in Bytes hinzufügen' ein.";
-const std::string kSuchenZahl = "Bitte geben Sie eine Zahl in das Feld 'Bytes vom Datei-Anfang an nach TAG suchen' ein.";
+const std::string kSuchenZahl =
+    "Bitte geben Sie eine Zahl in das Feld 'Bytes vom Datei-Anfang an nach TAG suchen' ein.";
 const std::string kFrage = "Es wurden Einstellungen für das Lesen von Datei-Informationen aktiviert.\n"
                            "Neu hinzugefügte Dateien werden nun mit den gewählten Einstellungen gelesen.\n\n"
                            "Möchten Sie alle im Index befindlichen Dateien neu einlesen?\n\n"
@@ -28,7 +30,8 @@ void DreiLieder(TestUmgebung& u, const TestOrdner& ordner) {
     IndexGrößeÄndern(u.k, 3, false);
     for (int32_t i = 1; i <= 3; ++i) {
         const std::string pfad = ordner / ("lied" + std::to_string(i) + ".mp3");
-        DateiSchreiben(pfad, mpeg::Frame(mpeg::Kopf{}) + mpeg::Id3v1("Titel " + std::to_string(i), "Band", "", "", "", 1, 0));
+        DateiSchreiben(pfad,
+                       mpeg::Frame(mpeg::Kopf{}) + mpeg::Id3v1("Titel " + std::to_string(i), "Band", "", "", "", 1, 0));
         u.k.DateiPfade[i] = pfad;
         u.k.DateiDaten[i].Datei_AngefordertAnzahl = 5;  // gehört dem Index, nicht der Datei
     }

@@ -158,7 +158,7 @@ void FensterTest::FarbenUndBesuchteBefehle() {
     auto* optionen = w.Kind<QLabel>("cmdOptionen");
     QCOMPARE(optionen->palette().color(QPalette::WindowText), QColor(0, 0, 0xC0));  // 0xC00000
     QTest::mouseClick(optionen, Qt::LeftButton);
-    QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht eingebaut."));
+    QCOMPARE(w.dialoge.back(), QStringLiteral("frmOptionen"));
     QCOMPARE(optionen->palette().color(QPalette::WindowText), QColor(0x80, 0, 0));  // besucht: 0x000080
     QCOMPARE(w.Kind<QWidget>("fraLinks1")->palette().color(QPalette::Window), QColor(0xEE, 0xEE, 0xEE));
 }

@@ -213,8 +213,8 @@ void frmIndexOptionen::DateitypBearbeitet() {
     if (füllen_ || zeile < 0 || zeile >= int(e_.typen.size()) || !DateitypÄnderbar(e_.typen[size_t(zeile)])) return;
     DateitypZeile& z = e_.typen[size_t(zeile)];
     z.endung = DateitypEndungNormal(S(txtDateitypEndung_->text()));
-    z.klasse = std::string(chkDateitypMpegAudio_->isChecked() ? "1" : "0") + (chkDateitypAudio_->isChecked() ? "1" : "0") +
-               (chkDateitypBilddatei_->isChecked() ? "1" : "0");
+    z.klasse = std::string(chkDateitypMpegAudio_->isChecked() ? "1" : "0") +
+               (chkDateitypAudio_->isChecked() ? "1" : "0") + (chkDateitypBilddatei_->isChecked() ? "1" : "0");
     füllen_ = true;
     lstDateitypen_->item(zeile)->setText(Q(DateitypAnzeige(z)));
     füllen_ = false;

@@ -117,8 +117,8 @@ void frmOptionen::SeiteAllgemein() {
     Haken(s, &E::DateiAutomatischSpeichern, "DateiAutomatischSpeichern",
           "Geänderte Indexdatei ohne Nachfrage speichern");
     auto* zeile = new QHBoxLayout;
-    chkRegelmäßigSpeichern_ = Benannt(new QCheckBox(U("Indexdatei regelmäßig speichern, alle"), this),
-                                      "chkRegelmäßigSpeichern");
+    chkRegelmäßigSpeichern_ =
+        Benannt(new QCheckBox(U("Indexdatei regelmäßig speichern, alle"), this), "chkRegelmäßigSpeichern");
     txtRegelmäßigSpeichern_ = Benannt(new QLineEdit(this), "txtRegelmäßigSpeichern");
     txtRegelmäßigSpeichern_->setMaximumWidth(60);
     zeile->addWidget(chkRegelmäßigSpeichern_);
@@ -131,8 +131,8 @@ void frmOptionen::SeiteAllgemein() {
     auto* beenden = new QHBoxLayout;
     auto* lbl = new QLabel(U("Beim &Schließen des Hauptfensters:"), this);
     cboBeendenAktion_ = Benannt(new QComboBox(this), "cboBeendenAktion");
-    cboBeendenAktion_->addItems({U("Nachfragen"), U("Fenster minimieren"), U("Programm beenden"),
-                                 U("In den Infobereich verkleinern")});
+    cboBeendenAktion_->addItems(
+        {U("Nachfragen"), U("Fenster minimieren"), U("Programm beenden"), U("In den Infobereich verkleinern")});
     lbl->setBuddy(cboBeendenAktion_);
     beenden->addWidget(lbl);
     beenden->addWidget(cboBeendenAktion_, 1);
@@ -192,7 +192,8 @@ void frmOptionen::SeiteTags() {
     QVBoxLayout* s = Seite("fraTags", "TAGs");
     txtID3v2Reserve_ = Feld(s, "txtID3v2Reserve", "Prozent des neuen TAGs in Bytes hinzufügen:");
     txtID3v2Suchen_ = Feld(s, "txtID3v2Suchen", "Bytes vom Datei-Anfang an nach TAG suchen:");
-    Haken(s, &E::TAGsSoftwareFeldSchreiben, "TAGsSoftwareFeldSchreiben", "Programmnamen in das Software-Feld schreiben");
+    Haken(s, &E::TAGsSoftwareFeldSchreiben, "TAGsSoftwareFeldSchreiben",
+          "Programmnamen in das Software-Feld schreiben");
     Haken(s, &E::TAGAutomatischSpeichern, "TAGAutomatischSpeichern", "TAG-Editor: ID3v1-TAG selbst speichern");
     Haken(s, &E::TAGAutomatischSpeichernV2, "TAGAutomatischSpeichernV2", "TAG-Editor: ID3v2-TAG selbst speichern");
     Überschrift(s, "AutoTAG");

@@ -33,7 +33,9 @@ void frmOptionen::SeiteFarben() {
     fraBeispiel_->setFrameShape(QFrame::StyledPanel);
     fraBeispiel_->setAutoFillBackground(true);
     auto* muster = new QGridLayout(fraBeispiel_);
-    auto beispiel = [&](const char* name, const char* text) { return Benannt(new QLabel(QString::fromUtf8(text), fraBeispiel_), name); };
+    auto beispiel = [&](const char* name, const char* text) {
+        return Benannt(new QLabel(QString::fromUtf8(text), fraBeispiel_), name);
+    };
     lblBeispielÜberschrift_ = beispiel("lblBeispielÜberschrift", "Überschrift");
     QFont fett = lblBeispielÜberschrift_->font();
     fett.setBold(true);
@@ -42,8 +44,8 @@ void frmOptionen::SeiteFarben() {
     lblBeispielFunktionenBesucht_ = beispiel("lblBeispielFunktionenBesucht", "Besuchte Funktion");
     lblBeispielBeschreibungen_ = beispiel("lblBeispielBeschreibungen", "Beschreibung einer Funktion");
     lstBeispielListe_ = Benannt(new QListWidget(fraBeispiel_), "lstBeispielListe");
-    lstBeispielListe_->addItems({QStringLiteral("Interpret - Titel"), QStringLiteral("Band A - Ein Tag"),
-                                 QStringLiteral("Chor - Nacht")});
+    lstBeispielListe_->addItems(
+        {QStringLiteral("Interpret - Titel"), QStringLiteral("Band A - Ein Tag"), QStringLiteral("Chor - Nacht")});
     lstBeispielListe_->setMaximumHeight(80);
     muster->addWidget(lblBeispielÜberschrift_, 0, 0);
     muster->addWidget(lblBeispielFunktionen_, 1, 0);
