@@ -22,20 +22,28 @@ bool IstProgrammDialog(QObject* objekt) {
 
 void FarbRolleSetzen(QWidget* w, const char* rolle) { w->setProperty(kRolle, QString::fromUtf8(rolle)); }
 
+namespace {
+// Nur aktiv und inaktiv: gesperrte Steuerelemente sollen gesperrt aussehen.
+void Setzen(QPalette& p, QPalette::ColorRole rolle, const QColor& farbe) {
+    p.setColor(QPalette::Active, rolle, farbe);
+    p.setColor(QPalette::Inactive, rolle, farbe);
+}
+}  // namespace
+
 void PaletteFarbe(QWidget* w, int rolle, const QColor& farbe) {
     QPalette p = w->palette();
-    p.setColor(static_cast<QPalette::ColorRole>(rolle), farbe);
+    Setzen(p, static_cast<QPalette::ColorRole>(rolle), farbe);
     w->setPalette(p);
 }
 
 void FensterFarbenAnwenden(QWidget* fenster, const Farbsatz& f) {
     // Die Palette des Fensters erben alle Steuerelemente, die keine eigene Rolle haben.
     QPalette p = fenster->palette();
-    p.setColor(QPalette::Window, FarbeAusWert(f.FunktionenHintergrund));
-    p.setColor(QPalette::WindowText, FarbeAusWert(f.Beschreibungen));
-    p.setColor(QPalette::Base, FarbeAusWert(f.ListenHintergrund));
-    p.setColor(QPalette::AlternateBase, FarbeAusWert(f.ListenHintergrund));
-    p.setColor(QPalette::Text, FarbeAusWert(f.Listen));
+    p.setColor(QPalette::Window, FarbeAusWert(f.FunktionenHintergrund));  // auch gesperrt
+    Setzen(p, QPalette::WindowText, FarbeAusWert(f.Beschreibungen));
+    Setzen(p, QPalette::Base, FarbeAusWert(f.ListenHintergrund));
+    Setzen(p, QPalette::AlternateBase, FarbeAusWert(f.ListenHintergrund));
+    Setzen(p, QPalette::Text, FarbeAusWert(f.Listen));
     fenster->setPalette(p);
     fenster->setAutoFillBackground(true);
     for (QWidget* w : fenster->findChildren<QWidget*>()) {

@@ -1,6 +1,7 @@
 #include "ui/LinkeSpalte.h"
 
 #include "settings/Einstellungen.h"
+#include "ui/Farben.h"
 #include "ui/FensterBefehle.h"
 #include "ui/LinkLabel.h"
 #include "ui/Umrechnung.h"
@@ -10,11 +11,7 @@
 #include <QVBoxLayout>
 
 namespace {
-void FarbeSetzen(QWidget* w, QPalette::ColorRole rolle, const QColor& farbe) {
-    QPalette p = w->palette();
-    p.setColor(rolle, farbe);
-    w->setPalette(p);
-}
+void FarbeSetzen(QWidget* w, QPalette::ColorRole rolle, const QColor& farbe) { PaletteFarbe(w, rolle, farbe); }
 }  // namespace
 
 LinkeSpalte::LinkeSpalte(const FensterBefehle& b, QWidget* eltern) : QFrame(eltern) {

@@ -6,6 +6,7 @@
 #include "index/IndexDatei.h"
 #include "search/Hauptfenster.h"
 #include "shell/Fortschritt.h"
+#include "ui/Farben.h"
 #include "ui/GuiOberflaeche.h"
 #include "ui/LinkLabel.h"
 #include "ui/LinkeSpalte.h"
@@ -22,11 +23,7 @@
 #include <QVBoxLayout>
 
 namespace {
-void Farbe(QWidget* w, const QColor& farbe) {
-    QPalette p = w->palette();
-    p.setColor(QPalette::WindowText, farbe);
-    w->setPalette(p);
-}
+void Farbe(QWidget* w, const QColor& farbe) { PaletteFarbe(w, QPalette::WindowText, farbe); }
 }  // namespace
 
 frmMain::frmMain(Kartei& k, GuiOberfläche& ui, std::string standardIndex, QWidget* eltern)
@@ -145,6 +142,7 @@ void frmMain::AufbauSuche(QWidget* rechts) {
 
 void frmMain::FarbenAnwenden() {
     const auto& e = k_.E;
+    FensterFarbenAnwenden(this, e);  // Grund und Beschreibungen wie jedes Fenster
     links_->FarbenAnwenden(e);
     Farbe(lblProgramm_, FarbeAusWert(e.FarbeÜberschrift));
     lblIndexdatei_->FarbenSetzen(FarbeAusWert(e.FarbeFunktionen), FarbeAusWert(e.FarbeFunktionenBesucht),

@@ -41,9 +41,7 @@ struct MitDatei {
 
 template <typename T> T* Kind(QWidget& w, const char* name) { return w.findChild<T*>(QString::fromUtf8(name)); }
 
-QColor Textfarbe(QWidget& w, const char* name) {
-    return Kind<QWidget>(w, name)->palette().color(QPalette::WindowText);
-}
+QColor Textfarbe(QWidget& w, const char* name) { return Kind<QWidget>(w, name)->palette().color(QPalette::WindowText); }
 
 void ProfilWählen(frmOptionen& d, int profil) {
     auto* cbo = Kind<QComboBox>(d, "cboFarbProfile");
@@ -102,8 +100,9 @@ void OptionenFensterTest::JederWertDurchDialogUndNeustart() {
         for (int z = 0; z < weitere->rowCount(); ++z) {
             const auto* eintrag = EinstellungFinden(S(weitere->item(z, 0)->text()));
             QVERIFY(eintrag);
-            weitere->item(z, 1)->setText(IstTextEinstellung(*eintrag) ? QStringLiteral("w-") + weitere->item(z, 0)->text()
-                                                                      : QStringLiteral("7"));
+            weitere->item(z, 1)->setText(IstTextEinstellung(*eintrag)
+                                             ? QStringLiteral("w-") + weitere->item(z, 0)->text()
+                                             : QStringLiteral("7"));
         }
         a.antworten = {Meldung::Nein};  // ID3v2 neu an: nicht neu einlesen
         QVERIFY(Drücken(d, "cmdOk"));
@@ -179,8 +178,8 @@ void OptionenFensterTest::PrueftexteUndLeereSpeicherzahl() {
     Kind<QLineEdit>(d, "txtRegelmäßigSpeichern")->clear();
     QVERIFY(Drücken(d, "cmdOk"));
     QCOMPARE(d.result(), int(QDialog::Rejected));
-    QVERIFY(u.MeldungGezeigt(
-        "Bitte geben Sie eine Zahl in das Feld 'Prozent des neuen TAGs in Bytes hinzufügen' ein."));
+    QVERIFY(
+        u.MeldungGezeigt("Bitte geben Sie eine Zahl in das Feld 'Prozent des neuen TAGs in Bytes hinzufügen' ein."));
     QCOMPARE(u.k.E.RegelmäßigSpeichernAlle, 30);
 
     Kind<QLineEdit>(d, "txtID3v2Reserve")->setText(QStringLiteral("150"));
