@@ -78,8 +78,7 @@ void UmbenennenZuletztSichern(Kartei& k, const UmbenennenEingaben& e) {
 
 std::string UmbenennenFehlendeEingabe(const UmbenennenEingaben& e) {
     switch (e.funktion) {
-    case F::NachFeldern:
-        return e.format.empty() ? "Es wurde kein Format bei der ID3-Umbenennung angegeben." : "";
+    case F::NachFeldern: return e.format.empty() ? "Es wurde kein Format bei der ID3-Umbenennung angegeben." : "";
     case F::ZeichenErsetzen: return e.suchen.empty() ? "Das Feld für die Ersetzen-Formatierung ist leer." : "";
     case F::Fortlaufend:
         if (e.zähler.empty()) return "Es wurde keine Start-Zeichenfolge bei der fortlaufenden Umbenennung angegeben.";

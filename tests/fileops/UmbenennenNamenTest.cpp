@@ -69,9 +69,9 @@ TEST(UmbenennenNamen, SchreibweiseEndungUndErsetzen) {
     EXPECT_EQ(EndungÄndern("/m/a.b.c", "ogg"), "/m/a.b.ogg");
     EXPECT_EQ(EndungÄndern("/m/ohne", "mp3"), "/m/ohne.mp3");
     EXPECT_EQ(EndungÄndern("/m.d/ohne", "mp3"), "/m.d/ohne.mp3");
-    EXPECT_EQ(EndungÄndern("/m/a.mp3", ".ogg"), "/m/a..ogg");  // der Punkt der Eingabe bleibt
+    EXPECT_EQ(EndungÄndern("/m/a.mp3", ".ogg"), "/m/a..ogg");              // der Punkt der Eingabe bleibt
     EXPECT_EQ(ZeichenErsetzen("/m/a_b_A.mp3", "a", "x"), "/m/x_b_A.mp3");  // Groß/Klein zählt
-    EXPECT_EQ(ZeichenErsetzen("/m/a_b.mp3", "_", "/"), "/m/a/b.mp3");     // "/" macht Ordner
+    EXPECT_EQ(ZeichenErsetzen("/m/a_b.mp3", "_", "/"), "/m/a/b.mp3");      // "/" macht Ordner
     EXPECT_EQ(ZeichenErsetzen("/m/mp3.mp3", "mp3", "ogg"), "/m/ogg.mp3");
 }
 
@@ -88,5 +88,6 @@ TEST(UmbenennenNamen, NachFeldernRelativOderVoll) {
     k.DateiDaten[1].Mp3_ID3v1_Status = 1;
     EXPECT_EQ(NachFeldernBenennen(k, 1, k.DateiPfade[1], "%Interpret% - %Titel%"), "/musik/alt/Queen - Bicycle?.mp3");
     EXPECT_EQ(NachFeldernBenennen(k, 1, k.DateiPfade[1], "/neu/%Interpret%/%Titel%"), "/neu/Queen/Bicycle?.mp3");
-    EXPECT_EQ(NachFeldernBenennen(k, 1, k.DateiPfade[1], "%Interpret%/100% %Titel"), "/musik/alt/Queen/100% %Titel.mp3");
+    EXPECT_EQ(NachFeldernBenennen(k, 1, k.DateiPfade[1], "%Interpret%/100% %Titel"),
+              "/musik/alt/Queen/100% %Titel.mp3");
 }
