@@ -16,9 +16,7 @@ void DateiFehler(Kartei& k, const std::string& datei, const char* grund) {
                        Meldung::Ausrufezeichen);
 }
 
-bool KennungPasst(std::string_view zeile) {
-    return zeile.size() == Kennung.size() && TexteGleich(zeile, Kennung);
-}
+bool KennungPasst(std::string_view zeile) { return zeile.size() == Kennung.size() && TexteGleich(zeile, Kennung); }
 }  // namespace
 
 bool InternetAdressenLaden(Kartei& k, const std::string& datei, EinsBasiert<std::string>& InternetURLs,
