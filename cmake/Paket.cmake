@@ -23,8 +23,8 @@ endforeach()
 add_custom_target(kk_paketdateien ALL DEPENDS ${KK_GEPACKT})
 install(FILES ${KK_PAKET_BAU}/klangkartei.1.gz ${KK_PAKET_BAU}/klangkartei-cli.1.gz
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES ${KK_PAKET}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(FILES ${KK_PAKET_BAU}/changelog.gz DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME changelog.Debian.gz)
+install(FILES ${KK_PAKET}/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/klangkartei)
+install(FILES ${KK_PAKET_BAU}/changelog.gz DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/klangkartei RENAME changelog.Debian.gz)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME klangkartei)
@@ -36,6 +36,7 @@ set(CPACK_PACKAGE_DESCRIPTION "KlangKartei führt eine Kartei über Musik- und M
 Netzlaufwerken und Wechselmedien: suchen beim Tippen, abspielen über einen
 MPRIS-fähigen Player, ID3-Tags bearbeiten, umbenennen, exportieren.
 Dazu die Kommandozeile klangkartei-cli für Skripte.")
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION sound)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
