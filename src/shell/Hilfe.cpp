@@ -4,6 +4,15 @@
 #include "app/Pfade.h"
 #include "app/Version.h"
 
+bool AnzeigenOderMelden(Kartei& k, const std::string& dateiOderAdresse) {
+    if (k.shell.Öffnen(dateiOderAdresse)) return true;
+    k.ui.MeldungZeigen("'" + dateiOderAdresse +
+                           "' konnte nicht geöffnet werden.\n\nEs ist kein Programm zum Anzeigen eingerichtet "
+                           "(xdg-open aus dem Paket xdg-utils und ein Browser).",
+                       Meldung::Ausrufezeichen);
+    return false;
+}
+
 std::string HilfeDatei(const std::string& datenOrdner) { return datenOrdner + "/hilfe/index.htm"; }
 
 bool HilfeAnzeigen(Kartei& k, const std::string& datenOrdner) {
@@ -15,7 +24,7 @@ bool HilfeAnzeigen(Kartei& k, const std::string& datenOrdner) {
                            Meldung::Ausrufezeichen);
         return false;
     }
-    return k.shell.Öffnen(datei);
+    return AnzeigenOderMelden(k, datei);
 }
 
 std::string ProgrammVersionText() {

@@ -5,6 +5,10 @@
 
 struct Kartei;
 
+// Datei oder Adresse mit dem Standardprogramm des Desktops öffnen; misslingt das (kein xdg-open,
+// kein Browser), eine Meldung und false.
+bool AnzeigenOderMelden(Kartei& k, const std::string& dateiOderAdresse);
+
 // Pfad der Hilfedatei unter datenOrdner.
 std::string HilfeDatei(const std::string& datenOrdner);
 // Öffnet die Hilfedatei mit ihrem Standardprogramm. Fehlt sie, eine Meldung und false; dann wird

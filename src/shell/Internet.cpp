@@ -5,6 +5,7 @@
 #include "app/Pfade.h"
 #include "app/Texte.h"
 #include "app/Trace.h"
+#include "shell/Hilfe.h"
 
 namespace {
 constexpr std::string_view Kennung = "InetURLs100";
@@ -93,6 +94,6 @@ bool InternetSucheÖffnen(Kartei& k, const InternetAuswahl& a, int32_t zeile, co
         k.ui.MeldungZeigen("Bitte geben Sie einen Such-Text ein.", Meldung::Information);
         return false;
     }
-    k.shell.Öffnen(Ersetzen(a.URLs[zeile], "%Suche%", InternetFormat(suche)));
-    return true;
+    // Misslingt das Öffnen, bleibt das Fenster offen.
+    return AnzeigenOderMelden(k, Ersetzen(a.URLs[zeile], "%Suche%", InternetFormat(suche)));
 }

@@ -26,8 +26,7 @@ void frmMain::cmdInfo_Click() {
 void frmMain::mnu_song_InfosInternet_Click() {
     AuswahlAktualisieren();
     InternetAuswahl auswahl;
-    if (!InternetSucheVorbereiten(k_, ProgrammDatenOrdner(), AusgewählteDateien(), AusgewähltAnzahl(), auswahl))
-        return;
+    if (!InternetSucheVorbereiten(k_, ProgrammDatenOrdner(), AusgewählteDateien(), AusgewähltAnzahl(), auswahl)) return;
     frmInternet dialog(this, k_, std::move(auswahl));
     ui_.DialogAusführen(dialog);
 }

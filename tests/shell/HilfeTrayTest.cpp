@@ -24,6 +24,14 @@ TEST(Hilfe, ÖffnetDieDateiOderMeldetIhrFehlen) {
     // Die mitgelieferte Hilfe ist da.
     EXPECT_TRUE(HilfeAnzeigen(u.k, KK_DATENORDNER));
     EXPECT_EQ(u.ui.meldungen.size(), 1u);
+    // Ohne Programm zum Anzeigen: eine Meldung statt Stille.
+    u.shell.gelingt = false;
+    EXPECT_FALSE(HilfeAnzeigen(u.k, ordner.Pfad()));
+    ASSERT_EQ(u.ui.meldungen.size(), 2u);
+    EXPECT_EQ(u.ui.meldungen[1].text, "'" + (ordner / "hilfe/index.htm") +
+                                          "' konnte nicht geöffnet werden.\n\nEs ist kein Programm zum Anzeigen "
+                                          "eingerichtet (xdg-open aus dem Paket xdg-utils und ein Browser).");
+    EXPECT_EQ(u.ui.meldungen[1].schalter, 48);
 }
 
 TEST(Hilfe, VersionUndCopyright) {

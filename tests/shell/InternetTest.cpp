@@ -134,6 +134,11 @@ TEST(InternetSuche, VorschlagAusDerAuswahlUndÖffnenMitMeldungen) {
     EXPECT_TRUE(InternetSucheÖffnen(a.u.k, ia, 2, "x"));
     EXPECT_EQ(a.u.shell.geöffnet.back(), "");
 
+    // Lässt sich nichts öffnen, bleibt das Fenster mit einer Meldung offen.
+    a.u.shell.gelingt = false;
+    EXPECT_FALSE(InternetSucheÖffnen(a.u.k, ia, 1, "x"));
+    EXPECT_EQ(a.u.ui.meldungen.back().schalter, 48);
+
     // Fehlt die Datei, bleibt das Fenster zu.
     InternetAuswahl fehlt;
     EXPECT_FALSE(InternetSucheVorbereiten(a.u.k, a.ordner / "nichts", auswahl, 2, fehlt));

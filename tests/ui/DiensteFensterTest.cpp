@@ -89,7 +89,8 @@ void DiensteFensterTest::InternetSuchtDenInterpretenImBrowser() {
     };
     w.Kind<QAction>("mnu_song_InfosInternet")->trigger();
     QCOMPARE(w.dialoge.back(), QStringLiteral("frmInternet"));
-    QCOMPARE(w.shell.geöffnet, std::vector<std::string>{"https://de.wikipedia.org/w/index.php?search=Die%20%C3%84rzte%2F%31"});
+    QCOMPARE(w.shell.geöffnet,
+             std::vector<std::string>{"https://de.wikipedia.org/w/index.php?search=Die%20%C3%84rzte%2F%31"});
 }
 
 void DiensteFensterTest::InfobereichVersteckenZeigenUndBeenden() {

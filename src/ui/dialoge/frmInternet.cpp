@@ -46,8 +46,7 @@ frmInternet::frmInternet(QWidget* besitzer, Kartei& k, InternetAuswahl auswahl)
 }
 
 void frmInternet::cmdOk_Click() {
-    const int32_t zeile = lstListe_->currentItem() && lstListe_->currentItem()->isSelected()
-                              ? lstListe_->currentRow() + 1
-                              : 0;
+    const int32_t zeile =
+        lstListe_->currentItem() && lstListe_->currentItem()->isSelected() ? lstListe_->currentRow() + 1 : 0;
     if (InternetSucheÖffnen(k_, auswahl_, zeile, S(txtSuche_->text()))) accept();
 }

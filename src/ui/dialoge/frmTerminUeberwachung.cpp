@@ -58,7 +58,8 @@ frmTerminÜberwachungHinzufügen::frmTerminÜberwachungHinzufügen(QWidget* besi
                       {QStyle::SP_DirHomeIcon, "Konzert"},
                       {QStyle::SP_MessageBoxInformation, "Termin"},
                       {QStyle::SP_FileIcon, "Sonstiges"}};
-    for (const auto& kat : kategorien) cboKategorie_->addItem(stil->standardIcon(kat.bild), QString::fromUtf8(kat.text));
+    for (const auto& kat : kategorien)
+        cboKategorie_->addItem(stil->standardIcon(kat.bild), QString::fromUtf8(kat.text));
     chkBenachrichtigen_ =
         Benannt(new QCheckBox(QStringLiteral("&Über dieses Ereignis benachrichtigen"), this), "chkBenachrichtigen");
 
