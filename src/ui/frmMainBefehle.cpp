@@ -9,6 +9,7 @@
 #include "ui/SongListe.h"
 #include "ui/Umrechnung.h"
 #include "ui/dialoge/BerichteZeigen.h"
+#include "ui/dialoge/frmUmbenennen.h"
 #include "ui/frmMain.h"
 
 #include <QAction>
@@ -57,7 +58,7 @@ void frmMain::BefehleAnlegen() {
         {&B::cmdDateienLöschen, "cmdDateienLöschen", "Löschen", &frmMain::NichtEingebaut},
         {&B::cmdDateienKopierenVerschieben, "cmdDateienKopierenVerschieben", "Kopieren/verschieben",
          &frmMain::NichtEingebaut},
-        {&B::cmdUmbenennen, "cmdUmbenennen", "Umbenennen", &frmMain::NichtEingebaut},
+        {&B::cmdUmbenennen, "cmdUmbenennen", "Umbenennen", &frmMain::cmdUmbenennen_Click},
         {&B::cmdOptionen, "cmdOptionen", "Optionen", &frmMain::NichtEingebaut},
         {&B::cmdHilfe, "cmdHilfe", "Hilfe", &frmMain::NichtEingebaut},
         {&B::cmdInfo, "cmdInfo", "Infos", &frmMain::NichtEingebaut},
@@ -194,6 +195,11 @@ void frmMain::cmdIndexVerwaltung_Click() { IndexVerwaltungZeigen(this, k_); }
 void frmMain::cmdExportieren_Click() {
     AuswahlAktualisieren();
     ExportierenZeigen(this, k_, AusgewählteDateien(), AusgewähltAnzahl());
+}
+
+void frmMain::cmdUmbenennen_Click() {
+    AuswahlAktualisieren();
+    if (UmbenennenZeigen(this, k_, AusgewählteDateien(), AusgewähltAnzahl())) SucheNachlauf();
 }
 
 void frmMain::cmdAuswählen_Click() {

@@ -31,6 +31,12 @@ public:
     // da, endet die Frage von selbst mit Weiter, ohne eine Antwort aus dem Skript zu nehmen.
     std::function<void()> währendNichtVerfügbar;
     std::deque<std::string> namen;  // Antworten auf NamenEingeben ("" am Anfang = Abbrechen mit "\x01")
+    // Jede Frage nach einem Namen, wie sie gestellt wurde.
+    struct NamenFrage {
+        std::string titel, knopf, text;
+        int32_t auswahlStart, auswahlLänge;
+    };
+    std::vector<NamenFrage> namenFragen;
     std::deque<std::string> ordner;
     std::deque<std::vector<std::string>> dateiListen;
 
@@ -47,7 +53,8 @@ public:
     void FortschrittDarstellen(const FortschrittAnsicht& a) override { fortschritte.push_back(a); }
     NichtVerfügbarAntwort DateiNichtVerfügbar(const std::string& pfad, const std::string& text,
                                               const std::function<bool()>& dateiDa) override;
-    bool NamenEingeben(const std::string&, const std::string&, std::string& text, int32_t, int32_t) override;
+    bool NamenEingeben(const std::string& titel, const std::string& knopf, std::string& text, int32_t start,
+                       int32_t länge) override;
     bool OrdnerWählen(const std::string&, std::string& ordner) override;
     bool DateienWählen(const std::string&, const std::string&, std::vector<std::string>& dateien) override;
 };
