@@ -45,8 +45,9 @@ bool Verschieben(Kartei& k, int32_t position, std::string neu) {
     std::string fehler;
     bool ergebnis = false;
     if (DateiVerschieben(k, alt, neu, ModusVerschieben, fehler)) {
-        OrdnerLöschenFragen(k, PfadZurückgeben(alt));
+        // Erst der Eintrag, dann die Frage nach dem alten Ordner: die Frage lässt Ereignisse laufen.
         k.DateiPfade[position] = neu;
+        OrdnerLöschenFragen(k, PfadZurückgeben(alt));
         if (k.E.Mp3TagLesen.size() >= 3 && k.E.Mp3TagLesen[2] == '1')
             k.DateiDaten[position].Datei_Wechselmedium = WechselmediumZuPfad(k, neu);
         ergebnis = true;
