@@ -3,6 +3,7 @@
 #include "app/Kartei.h"
 #include "ui/Umrechnung.h"
 #include "ui/dialoge/frmDateiNichtVerfuegbar.h"
+#include "ui/dialoge/frmVerschiebenDateiExistiert.h"
 #include "ui/dialoge/frmFortschritt.h"
 
 #include <QAbstractButton>
@@ -136,6 +137,12 @@ NichtVerfügbarAntwort GuiOberfläche::DateiNichtVerfügbar(const std::string&, 
     frmDateiNichtVerfügbar dialog(SichtbarerBesitzer(), text, dateiDa);
     DialogAusführen(dialog);
     return dialog.DateiNichtVerfügbarAuswahl;
+}
+
+int16_t GuiOberfläche::VerschiebenDateiExistiert(const std::string& text) {
+    frmVerschiebenDateiExistiert dialog(SichtbarerBesitzer(), text);
+    DialogAusführen(dialog);
+    return dialog.DateiExistiertAuswahl;
 }
 
 bool GuiOberfläche::NamenEingeben(const std::string& titel, const std::string&, std::string& text, int32_t, int32_t) {

@@ -33,6 +33,8 @@ public:
     std::deque<std::string> namen;  // Antworten auf NamenEingeben ("" am Anfang = Abbrechen mit "\x01")
     std::deque<std::string> ordner;
     std::deque<std::vector<std::string>> dateiListen;
+    std::deque<int16_t> existiertAntworten;  // frmVerschiebenDateiExistiert: 1, 2 oder 3
+    std::vector<std::string> existiertFragen;
 
     std::vector<AufgezeichneteMeldung> meldungen;
     std::vector<std::string> titelTexte;
@@ -50,6 +52,7 @@ public:
     bool NamenEingeben(const std::string&, const std::string&, std::string& text, int32_t, int32_t) override;
     bool OrdnerWählen(const std::string&, std::string& ordner) override;
     bool DateienWählen(const std::string&, const std::string&, std::vector<std::string>& dateien) override;
+    int16_t VerschiebenDateiExistiert(const std::string& text) override;
 };
 
 class TestRegistrierung final : public Registrierung {
