@@ -15,6 +15,8 @@ extern const Befehl BefehlAdd, BefehlImport, BefehlScan, BefehlTypes;
 extern const Befehl BefehlSearch, BefehlSort, BefehlComplete;
 // Berichte
 extern const Befehl BefehlExport, BefehlStats, BefehlDupes;
+// Dateioperationen
+extern const Befehl BefehlMove, BefehlCopy, BefehlPropose, BefehlDelete, BefehlSync;
 
 const std::vector<Befehl>& AlleBefehle() {
     static const std::vector<Befehl> befehle = {
@@ -43,6 +45,12 @@ const std::vector<Befehl>& AlleBefehle() {
         BefehlExport,
         BefehlStats,
         BefehlDupes,
+        // Dateioperationen
+        BefehlMove,
+        BefehlCopy,
+        BefehlPropose,
+        BefehlDelete,
+        BefehlSync,
     };
     return befehle;
 }
