@@ -44,5 +44,4 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
 
 extern const Befehl BefehlDelete = {
     "delete", "delete --trash|--permanent|--index-only [AUSWAHL]",
-    "Dateien in den Papierkorb legen, endgültig löschen (fragt; mit --yes) oder nur aus dem Index nehmen",
-    Ausführen};
+    "Dateien in den Papierkorb legen, endgültig löschen (fragt; mit --yes) oder nur aus dem Index nehmen", Ausführen};

@@ -21,8 +21,8 @@ int Übertragen(CliKontext& c, const std::vector<std::string>& argumente, int16_
     std::vector<int32_t> gewählt;
     if (!AuswahlAnwenden(c, auswahl, gewählt)) return 1;
     const KopierenErgebnis e = DateienKopieren(c.k, gewählt, VollerDateiPfad(rest[0]), modus);
-    std::printf("Erfolgreich=%d\nFehlgeschlagen=%d\nÜbersprungen=%d\nAbgebrochen=%d\n", e.erfolgreich,
-                e.fehlgeschlagen, e.übersprungen, e.abgebrochen ? 1 : 0);
+    std::printf("Erfolgreich=%d\nFehlgeschlagen=%d\nÜbersprungen=%d\nAbgebrochen=%d\n", e.erfolgreich, e.fehlgeschlagen,
+                e.übersprungen, e.abgebrochen ? 1 : 0);
     std::fflush(stdout);
     // Was verschoben ist, steht schon am neuen Platz: auch nach einem Fehler wird gespeichert.
     const bool gesichert = ÄnderungenSpeichern(c.k);

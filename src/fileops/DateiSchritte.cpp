@@ -95,7 +95,8 @@ int DateiKopieren(const std::string& quelle, const std::string& ziel) {
 }
 
 bool DieselbeDatei(const std::string& a, const std::string& b) {
-    struct stat sa {}, sb {};
+    struct stat sa {
+    }, sb{};
     return ::stat(a.c_str(), &sa) == 0 && ::stat(b.c_str(), &sb) == 0 && sa.st_dev == sb.st_dev &&
            sa.st_ino == sb.st_ino;
 }

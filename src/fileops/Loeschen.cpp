@@ -9,7 +9,6 @@
 
 #include <cerrno>
 #include <dirent.h>
-#include <fcntl.h>
 #include <unistd.h>
 #include <vector>
 
@@ -30,7 +29,8 @@ bool OrdnerEntfernenOderMelden(Kartei& k, const std::string& ordner) {
 // Nach der letzten Datei eines Ordners: ist er jetzt leer, fragen.
 void LeerenOrdnerAnbieten(Kartei& k, const std::string& ordner) {
     if (!IstOrdner(ordner) || WeitereDateienInOrdner(ordner)) return;
-    if (k.ui.MeldungZeigen(LeerFrage(ordner), Meldung::JaNeinFrage) == Meldung::Ja) OrdnerEntfernenOderMelden(k, ordner);
+    if (k.ui.MeldungZeigen(LeerFrage(ordner), Meldung::JaNeinFrage) == Meldung::Ja)
+        OrdnerEntfernenOderMelden(k, ordner);
 }
 
 // Der Ordner je Platz der Liste ("" für leere oder ungültige Plätze), vor allen Änderungen.
@@ -159,17 +159,6 @@ bool WeitereDateienInOrdner(std::string_view ordner) {
 bool OrdnerLöschen(std::string_view ordner) {
     if (!IstOrdner(ordner)) return true;
     return ::rmdir(std::string(ordner).c_str()) == 0;
-}
-
-bool DateiDurchLeereErsetzen(std::string_view pfad, std::string_view endung, bool löschen) {
-    const std::string alt(pfad);
-    const std::string neu = alt.substr(0, alt.size() - DateiEndung(alt).size()) + "." + std::string(endung);
-    // Eine fremde Datei mit dem neuen Namen wird nicht geleert.
-    if (neu != alt && (DoesExist(neu) || IstOrdner(neu))) return false;
-    if (löschen && !DateiLöschenEinfach(alt)) return false;
-    const int fd = ::open(neu.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
-    if (fd < 0) return false;
-    return ::close(fd) == 0;
 }
 
 bool EndgültigLöschenBestätigen(Kartei& k, int32_t anzahl) {

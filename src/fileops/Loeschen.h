@@ -32,9 +32,5 @@ bool WeitereDateienInOrdner(std::string_view ordner);
 // Entfernt einen leeren Ordner; was kein Ordner ist, gilt als erledigt.
 bool OrdnerLöschen(std::string_view ordner);
 
-// Löscht die Datei (mit löschen) und legt an ihrer Stelle eine leere Datei mit der neuen Endung
-// an. Eine andere Datei dieses Namens wird nie überschrieben: dann false, bevor etwas geschieht.
-bool DateiDurchLeereErsetzen(std::string_view pfad, std::string_view endung, bool löschen);
-
 // frmLöschen, cmdLöschen: die Frage mit Stoppzeichen; true bei "Ja".
 bool EndgültigLöschenBestätigen(Kartei& k, int32_t anzahl);

@@ -45,7 +45,13 @@ std::string PfadText(const std::string& pfad) {
 std::string FehlerText(const std::string& quelle, int fehler) {
     std::string t = "Es ist ein Fehler beim Ändern des Dateinamens '" + PfadText(quelle) + "' aufgetreten.\n";
     switch (fehler) {
-    case EACCES: case EPERM: case EROFS: case EBUSY: case ETXTBSY: case EMFILE: case ENFILE:
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case EBUSY:
+    case ETXTBSY:
+    case EMFILE:
+    case ENFILE:
         return t + "Auf die Datei kann nicht zugegriffen werden (Fehler " + std::to_string(fehler) +
                ").\n\nStellen Sie sicher, dass diese nicht in einem Programm (z.B. Download-Programm, Musikeditor, "
                "Audioplayer) geöffnet ist und der Zugriff möglich ist (z.B. schreibgeschütztes Laufwerk).";
@@ -76,8 +82,9 @@ bool ZielBestehtKlären(Kartei& k, const std::string& quelle, std::string& ziel,
         }
         return true;
     }
-    fehlertext = "Die Datei '" + PfadText(quelle) + "' kann nicht verschoben oder umbenannt werden.\nDie Zieldatei existiert '" +
-                 PfadText(ziel) + "' bereits und Umbenennen wurde nicht gewünscht.";
+    fehlertext = "Die Datei '" + PfadText(quelle) +
+                 "' kann nicht verschoben oder umbenannt werden.\nDie Zieldatei existiert '" + PfadText(ziel) +
+                 "' bereits und Umbenennen wurde nicht gewünscht.";
     return false;
 }
 
@@ -112,8 +119,8 @@ std::string NamenBereinigen(std::string_view text, bool pfadErlaubt) {
 
 std::string DateiExistiertText(const std::string& quelle, const std::string& ziel) {
     return "Die Datei '" + PfadText(quelle) + "' (Größe: " + std::to_string(DateiGrößeLesen(quelle)) +
-           " Bytes) kann nicht umbenannt werden.\nDie Zieldatei '" + PfadText(ziel) + "' (Größe: " +
-           std::to_string(DateiGrößeLesen(ziel)) +
+           " Bytes) kann nicht umbenannt werden.\nDie Zieldatei '" + PfadText(ziel) +
+           "' (Größe: " + std::to_string(DateiGrößeLesen(ziel)) +
            " Bytes) existiert bereits.\n\nBenennen Sie die Quelldatei mit der Funktion 'Umbenennen' in einen "
            "einmaligen Dateinamen um (z.B. 'Datei-0.mp3', 'Datei-1.mp3',...) oder wählen Sie 'Abbrechen', um den "
            "Kopiervorgang abzubrechen. Mit der Funktion 'Ersetzen' wird die bereits existierende Datei vom "
@@ -127,8 +134,9 @@ bool DateiVerschieben(Kartei& k, const std::string& quelle, std::string& ziel, i
         return true;
     }
     if (!DoesExist(quelle)) {
-        fehlertext = "Die Datei '" + PfadText(quelle) + "' (Quelldatei) kann nicht verschoben oder umbenannt werden.\nDiese '" +
-                     PfadText(quelle) + "' existiert nicht.";
+        fehlertext = "Die Datei '" + PfadText(quelle) +
+                     "' (Quelldatei) kann nicht verschoben oder umbenannt werden.\nDiese '" + PfadText(quelle) +
+                     "' existiert nicht.";
         return false;
     }
     // Nur Groß/Klein geändert: das "vorhandene" Ziel ist die Quelle selbst.

@@ -11,8 +11,8 @@ bool InZielordnerVerschieben(Kartei& k, std::string ordner, std::string zielordn
     const std::string datei = k.Aufnahme.Suchliste[i];
     if (const std::string vorschlag = NamenBereinigen(zielordner, true); vorschlag != zielordner) {
         KK_TRACE("EinfachOrdnerHinzufügen", "Ordnername ungültig (Vorschlag - " + vorschlag + ")");
-        k.ui.MeldungZeigen("Beim Kopieren der Datei '" + datei + "' ist ein Fehler aufgetreten: \nDer Zielordner-Name '" +
-                               zielordner +
+        k.ui.MeldungZeigen("Beim Kopieren der Datei '" + datei +
+                               "' ist ein Fehler aufgetreten: \nDer Zielordner-Name '" + zielordner +
                                "' enthält ungültige Zeichen.\n\nDie Kopieren-Funktion wurde für diesen Ordner "
                                "deaktiviert. Ändern Sie den Ordner-Namen in den Optionen.",
                            Meldung::Ausrufezeichen);
@@ -21,12 +21,13 @@ bool InZielordnerVerschieben(Kartei& k, std::string ordner, std::string zielordn
     if (zielordner.back() != '/') zielordner += '/';
     if (ordner.empty() || ordner.back() != '/') ordner += '/';
     // Der Pfad unter dem Ordner kommt unter den Zielordner.
-    std::string ziel = zielordner + (BeginntMitText(datei, ordner) ? datei.substr(ordner.size()) : DateinameAusPfad(datei));
+    std::string ziel =
+        zielordner + (BeginntMitText(datei, ordner) ? datei.substr(ordner.size()) : DateinameAusPfad(datei));
     std::string fehlertext;
     if (!DateiVerschieben(k, datei, ziel, ModusVerschieben, fehlertext)) {
-        return k.ui.MeldungZeigen("Beim Verschieben der Datei '" + datei + "' ist ein Fehler aufgetreten: \n" + fehlertext +
-                                      "\n\nMöchten Sie mit weiteren Dateien im aktuellen Ordner ('" + ordner +
-                                      "') fortfahren?",
+        return k.ui.MeldungZeigen("Beim Verschieben der Datei '" + datei + "' ist ein Fehler aufgetreten: \n" +
+                                      fehlertext + "\n\nMöchten Sie mit weiteren Dateien im aktuellen Ordner ('" +
+                                      ordner + "') fortfahren?",
                                   Meldung::JaNeinAusruf) == Meldung::Ja;
     }
     OrdnerLöschenFragen(k, PfadZurückgeben(datei));

@@ -23,7 +23,8 @@ inline std::vector<std::string> IndexPfade(const Kartei& k) {
 
 // /dev/shm, wenn es auf einem anderen Dateisystem als der Testordner liegt; sonst "".
 inline std::string FremdesDateisystem(const std::string& hier) {
-    struct stat a {}, b {};
+    struct stat a {
+    }, b{};
     if (::stat("/dev/shm", &a) != 0 || ::stat(hier.c_str(), &b) != 0 || a.st_dev == b.st_dev) return {};
     return "/dev/shm";
 }

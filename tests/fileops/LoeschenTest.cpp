@@ -1,4 +1,4 @@
-// Löschen, Papierkorb, leere Ordner und das Ersetzen durch eine leere Datei.
+// Löschen, Papierkorb und leere Ordner.
 #include "app/Pfade.h"
 #include "fileops/DateiTestHilfen.h"
 #include "fileops/Loeschen.h"
@@ -171,18 +171,4 @@ TEST(Loeschen, OrdnerFragenUndVerborgeneDateien) {
     EXPECT_EQ(u.ui.meldungen[0].text, LeerFrage(o / "leer/"));
     EXPECT_EQ(u.ui.meldungen[0].schalter, Meldung::JaNeinAusruf);
     EXPECT_TRUE(OrdnerLöschen(o / "gibtsnicht"));
-}
-
-TEST(Loeschen, DurchLeereDateiErsetzen) {
-    TestOrdner o;
-    DateiSchreiben(o / "a.b.mp3", "Musik");
-    EXPECT_TRUE(DateiDurchLeereErsetzen(o / "a.b.mp3", "txt", true));
-    EXPECT_FALSE(DoesExist(o / "a.b.mp3"));
-    EXPECT_EQ(DateiGrößeLesen(o / "a.b.txt"), 0);
-    // Eine andere Datei mit dem neuen Namen bleibt, wie sie ist, und die alte auch.
-    DateiSchreiben(o / "c.mp3", "Musik");
-    DateiSchreiben(o / "c.txt", "Notizen");
-    EXPECT_FALSE(DateiDurchLeereErsetzen(o / "c.mp3", "txt", true));
-    EXPECT_EQ(DateiLesen(o / "c.mp3"), "Musik");
-    EXPECT_EQ(DateiLesen(o / "c.txt"), "Notizen");
 }

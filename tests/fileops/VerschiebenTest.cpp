@@ -71,8 +71,8 @@ TEST(DateiVerschieben, GleicherNameFehlendeQuelleUndSchreibweise) {
     const std::string weg = o / "weg.mp3";
     ziel = o / "b.mp3";
     EXPECT_FALSE(DateiVerschieben(u.k, weg, ziel, ModusVerschieben, fehler));
-    EXPECT_EQ(fehler, "Die Datei '" + weg + "' (Quelldatei) kann nicht verschoben oder umbenannt werden.\nDiese '" + weg +
-                          "' existiert nicht.");
+    EXPECT_EQ(fehler, "Die Datei '" + weg + "' (Quelldatei) kann nicht verschoben oder umbenannt werden.\nDiese '" +
+                          weg + "' existiert nicht.");
 
     // Nur Groß/Klein: keine Frage, die Datei heißt danach anders.
     ziel = o / "A.MP3";
@@ -115,8 +115,8 @@ TEST(DateiVerschieben, ZielBestehtUmbenennenErsetzenAbbrechen) {
     u.ui.existiertAntworten = {3};
     ziel = z;
     EXPECT_FALSE(DateiVerschieben(u.k, q, ziel, ModusVerschieben, fehler));
-    EXPECT_EQ(fehler, "Die Datei '" + q + "' kann nicht verschoben oder umbenannt werden.\nDie Zieldatei existiert '" + z +
-                          "' bereits und Umbenennen wurde nicht gewünscht.");
+    EXPECT_EQ(fehler, "Die Datei '" + q + "' kann nicht verschoben oder umbenannt werden.\nDie Zieldatei existiert '" +
+                          z + "' bereits und Umbenennen wurde nicht gewünscht.");
     EXPECT_EQ(DateiLesen(q), "neu2");
     EXPECT_EQ(DateiLesen(z), "altes Ziel");
 

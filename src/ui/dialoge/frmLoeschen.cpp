@@ -15,10 +15,10 @@ frmLöschen::frmLöschen(QWidget* besitzer, Kartei& k, std::vector<int32_t> eint
     setWindowTitle(QStringLiteral("Dateien löschen"));
     auto* symbol = new QLabel(this);
     symbol->setPixmap(style()->standardIcon(QStyle::SP_TrashIcon).pixmap(48, 48));
-    auto* lblFrage = Benannt(
-        new QLabel(QString::number(einträge_.size()) + QStringLiteral(" Datei(en) löschen oder in den Papierkorb legen?"),
-                   this),
-        "lblFrage");
+    auto* lblFrage = Benannt(new QLabel(QString::number(einträge_.size()) +
+                                            QStringLiteral(" Datei(en) löschen oder in den Papierkorb legen?"),
+                                        this),
+                             "lblFrage");
     auto* lblHinweis = Benannt(
         new QLabel(QStringLiteral("Hinweis: Die Funktion 'Löschen' entfernt Dateien dauerhaft vom Datenträger."), this),
         "lblHinweis");
