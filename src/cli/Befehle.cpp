@@ -17,6 +17,8 @@ extern const Befehl BefehlSearch, BefehlSort, BefehlComplete;
 extern const Befehl BefehlExport, BefehlStats, BefehlDupes;
 // Dateien
 extern const Befehl BefehlRename;
+// Dateioperationen
+extern const Befehl BefehlMove, BefehlCopy, BefehlPropose, BefehlDelete, BefehlSync;
 
 const std::vector<Befehl>& AlleBefehle() {
     static const std::vector<Befehl> befehle = {
@@ -47,6 +49,12 @@ const std::vector<Befehl>& AlleBefehle() {
         BefehlDupes,
         // Dateien
         BefehlRename,
+        // Dateioperationen
+        BefehlMove,
+        BefehlCopy,
+        BefehlPropose,
+        BefehlDelete,
+        BefehlSync,
     };
     return befehle;
 }

@@ -4,6 +4,7 @@
 #include "ui/Umrechnung.h"
 #include "ui/dialoge/frmDateiNichtVerfuegbar.h"
 #include "ui/dialoge/frmDateiname.h"
+#include "ui/dialoge/frmVerschiebenDateiExistiert.h"
 #include "ui/dialoge/frmFortschritt.h"
 
 #include <QAbstractButton>
@@ -136,6 +137,12 @@ NichtVerfügbarAntwort GuiOberfläche::DateiNichtVerfügbar(const std::string&, 
     frmDateiNichtVerfügbar dialog(SichtbarerBesitzer(), text, dateiDa);
     DialogAusführen(dialog);
     return dialog.DateiNichtVerfügbarAuswahl;
+}
+
+int16_t GuiOberfläche::VerschiebenDateiExistiert(const std::string& text) {
+    frmVerschiebenDateiExistiert dialog(SichtbarerBesitzer(), text);
+    DialogAusführen(dialog);
+    return dialog.DateiExistiertAuswahl;
 }
 
 bool GuiOberfläche::NamenEingeben(const std::string& titel, const std::string& knopf, std::string& text,

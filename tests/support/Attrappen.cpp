@@ -69,6 +69,13 @@ bool TestOberfläche::DateienWählen(const std::string&, const std::string&, std
     return true;
 }
 
+int16_t TestOberfläche::VerschiebenDateiExistiert(const std::string& text) {
+    existiertFragen.push_back(text);
+    int16_t antwort = 3;
+    Nimm(existiertAntworten, antwort, "Datei existiert");
+    return antwort;
+}
+
 std::optional<RegistrierungsWert> TestRegistrierung::WertLesen(const std::string& name) {
     auto it = werte.find(name);
     if (it == werte.end()) return std::nullopt;

@@ -39,6 +39,8 @@ public:
     std::vector<NamenFrage> namenFragen;
     std::deque<std::string> ordner;
     std::deque<std::vector<std::string>> dateiListen;
+    std::deque<int16_t> existiertAntworten;  // frmVerschiebenDateiExistiert: 1, 2 oder 3
+    std::vector<std::string> existiertFragen;
 
     std::vector<AufgezeichneteMeldung> meldungen;
     std::vector<std::string> titelTexte;
@@ -57,6 +59,7 @@ public:
                        int32_t länge) override;
     bool OrdnerWählen(const std::string&, std::string& ordner) override;
     bool DateienWählen(const std::string&, const std::string&, std::vector<std::string>& dateien) override;
+    int16_t VerschiebenDateiExistiert(const std::string& text) override;
 };
 
 class TestRegistrierung final : public Registrierung {
