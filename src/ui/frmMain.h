@@ -82,7 +82,6 @@ private:
     void cmdIndexStatistik_Click();
     void cmdIndexVerwaltung_Click();
     void cmdExportieren_Click();
-    void cmdUmbenennen_Click();
     void mnu_wählealle_Click();
     void mnu_wählekeine_Click();
     void mnu_wähleumkehren_Click();
@@ -104,6 +103,7 @@ private:
     // Dateien (frmMainDateien.cpp)
     std::vector<int32_t> GewählteEinträge();  // die Auswahl, frisch aus der Liste gelesen
     void cmdDateienKopierenVerschieben_Click();
+    void cmdUmbenennen_Click();
     void cmdDateienLöschen_Click();
     void cmdListeAufräumen_Click();
 

@@ -9,7 +9,6 @@
 #include "ui/SongListe.h"
 #include "ui/Umrechnung.h"
 #include "ui/dialoge/BerichteZeigen.h"
-#include "ui/dialoge/frmUmbenennen.h"
 #include "ui/frmMain.h"
 
 #include <QAction>
@@ -195,11 +194,6 @@ void frmMain::cmdIndexVerwaltung_Click() { IndexVerwaltungZeigen(this, k_); }
 void frmMain::cmdExportieren_Click() {
     AuswahlAktualisieren();
     ExportierenZeigen(this, k_, AusgewählteDateien(), AusgewähltAnzahl());
-}
-
-void frmMain::cmdUmbenennen_Click() {
-    AuswahlAktualisieren();
-    if (UmbenennenZeigen(this, k_, AusgewählteDateien(), AusgewähltAnzahl())) SucheNachlauf();
 }
 
 void frmMain::cmdAuswählen_Click() {

@@ -124,6 +124,7 @@ TEST(UmbenennenLauf, AbbruchBehaeltErledigtes) {
     const auto liste = Einträge(u.k, o, {"a.mp3", "b.mp3", "c.mp3"});
     UmbenennenEingaben e;
     e.funktion = F::Manuell;
+    e.format = "gemerkt";
     // Erste Datei umbenannt, bei der zweiten abgebrochen: die Frage kommt noch, dann ist Schluss.
     u.ui.namen = {"eins.mp3", "\x01"};
     u.ui.antworten = {Meldung::Ja};
@@ -144,8 +145,8 @@ TEST(UmbenennenLauf, AbbruchBehaeltErledigtes) {
     ASSERT_EQ(u.ui.meldungen.size(), 1u);
     EXPECT_EQ(u.ui.meldungen[0].text, "Möchten Sie mit der nächsten Datei fortfahren?");
     EXPECT_EQ(u.ui.meldungen[0].schalter, 36);
-    EXPECT_FALSE(SchlussGezeigt(u.ui));              // angehalten vor der letzten Datei
-    EXPECT_EQ(u.k.E.UmbenennenEingabeNeuZahl, "0");  // auch nach dem Abbruch gemerkt (Vorgabe)
+    EXPECT_FALSE(SchlussGezeigt(u.ui));                // angehalten vor der letzten Datei
+    EXPECT_EQ(u.k.E.UmbenennenEingabeID3, "gemerkt");  // auch nach dem Abbruch gemerkt
 
     // Angehalten bei der letzten Datei: ohne Frage, aber mit Schlusstext.
     u.ui.namen = {"zwei.mp3", "drei.mp3", "\x01"};
@@ -165,15 +166,17 @@ TEST(UmbenennenLauf, AbbrechenImFortschrittBehaeltErledigtes) {
     UmbenennenEingaben e;
     e.funktion = F::Endung;
     e.neueEndung = "ogg";
-    // Während der ersten Datei wird "Abbrechen" gedrückt.
+    // Nach der ersten Datei wird "Abbrechen" gedrückt; die Meldung danach bemerkt es.
     u.ui.beiEreignissen = [&] {
         if (DoesExist(o / "a.ogg")) FortschrittAbbrechenGedrückt(u.k);
     };
     const UmbenennenErgebnis r = UmbenennenAusführen(u.k, liste, e);
     EXPECT_TRUE(r.abgebrochen);
+    EXPECT_EQ(r.geändert, 2);
     EXPECT_EQ(u.k.DateiPfade[1], o / "a.ogg");
-    EXPECT_EQ(u.k.DateiPfade[2], o / "b.mp3");
-    EXPECT_TRUE(DoesExist(o / "a.ogg") && DoesExist(o / "b.mp3"));
+    EXPECT_EQ(u.k.DateiPfade[2], o / "b.ogg");
+    EXPECT_EQ(u.k.DateiPfade[3], o / "c.mp3");
+    EXPECT_TRUE(DoesExist(o / "a.ogg") && DoesExist(o / "b.ogg") && DoesExist(o / "c.mp3"));
     EXPECT_TRUE(u.k.DateiGeändert);
 }
 

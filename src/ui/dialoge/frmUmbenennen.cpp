@@ -196,11 +196,3 @@ void frmUmbenennen::cmdOk_Click() {
     UmbenennenAusführen(k_, liste_, e);
     accept();
 }
-
-bool UmbenennenZeigen(QWidget* besitzer, Kartei& k, const EinsBasiert<int32_t>& gewählt, int32_t anzahl) {
-    std::vector<int32_t> liste;
-    for (int32_t i = 1; i <= anzahl && gewählt.GültigerIndex(i); ++i) liste.push_back(gewählt[i]);
-    if (liste.empty()) return false;
-    frmUmbenennen dialog(besitzer, k, std::move(liste));
-    return dialog.exec() == QDialog::Accepted;
-}

@@ -1,7 +1,6 @@
 #pragma once
 // Dateinamen oder Indexeinträge ändern: eine der neun Funktionen wählen, ihre Eingaben machen,
 // und die Umbenennung über die gewählten Einträge laufen lassen.
-#include "app/EinsBasiert.h"
 #include "fileops/Umbenennen.h"
 
 #include <QDialog>
@@ -43,6 +42,3 @@ private:
     QRadioButton *optKleinschreibung_, *optGrossschreibung_, *optKleinErstenGross_, *optKleinWörterGross_;
     QCheckBox *chkAttributSchreibschutz_, *chkAttributVersteckt_, *chkAttributSystem_, *chkAttributArchiv_;
 };
-
-// cmdUmbenennen: ohne gewählte Einträge nichts; sonst den Dialog. true, wenn umbenannt wurde.
-bool UmbenennenZeigen(QWidget* besitzer, Kartei& k, const EinsBasiert<int32_t>& gewählt, int32_t anzahl);
