@@ -93,7 +93,7 @@ frmUmbenennen::frmUmbenennen(QWidget* besitzer, Kartei& k, std::vector<int32_t> 
     layout->addLayout(knöpfe);
 
     EingabenSetzen(UmbenennenZuletzt(k_));
-    connect(lstFunktionen_, &QListWidget::currentRowChanged, this, &frmUmbenennen::lstFunktionen_Click);
+    connect(lstFunktionen_, &QListWidget::itemSelectionChanged, this, &frmUmbenennen::lstFunktionen_Click);
     connect(cmdOk, &QPushButton::clicked, this, &frmUmbenennen::cmdOk_Click);
     connect(cmdAbbrechen, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -164,7 +164,7 @@ void frmUmbenennen::EingabenSetzen(const UmbenennenEingaben& e) {
 
 UmbenennenEingaben frmUmbenennen::Eingaben() const {
     UmbenennenEingaben e;
-    e.funktion = FunktionFürPosition(lstFunktionen_->currentRow());
+    e.funktion = FunktionFürPosition(GewählteZeile());
     const QRadioButton* schreibweisen[] = {optKleinschreibung_, optGrossschreibung_, optKleinErstenGross_,
                                            optKleinWörterGross_};
     for (int16_t i = 0; i < 4; ++i)
@@ -184,8 +184,14 @@ UmbenennenEingaben frmUmbenennen::Eingaben() const {
     return e;
 }
 
+int frmUmbenennen::GewählteZeile() const {
+    // Nur eine gewählte Zeile zählt: die Liste setzt beim ersten Fokus eine aktuelle Zeile von selbst.
+    const auto gewählt = lstFunktionen_->selectedItems();
+    return gewählt.isEmpty() ? -1 : lstFunktionen_->row(gewählt.front());
+}
+
 void frmUmbenennen::lstFunktionen_Click() {
-    const int zeile = lstFunktionen_->currentRow();
+    const int zeile = GewählteZeile();
     fraOptionen_->setCurrentIndex(zeile >= 0 && zeile < kLeereSeite ? zeile : kLeereSeite);
 }
 

@@ -30,6 +30,7 @@ private:
     QWidget* SeiteSchreibweise();
     QWidget* SeiteAttribute();
     void EingabenSetzen(const UmbenennenEingaben& e);
+    int GewählteZeile() const;
     void lstFunktionen_Click();
     void cmdOk_Click();
 
