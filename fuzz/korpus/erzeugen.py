@@ -55,6 +55,9 @@ def index_korpus():
               "#OPT:SPALTEN_NUTZERFORMAT=%Titel% (%Jahr%)\r\n#OPT:UNBEKANNT=1\r\n")
     schreiben("indexzeilen", "umlaute", "#TAG:kk102\r\n#TAG:16/4|/musik/Lüge.mp3Wölf\r\n#TAG:9|/a/b\xc3.mp3\r\n")
     schreiben("indexzeilen", "kaputt", "#TAG:kk102\r\n#TAG:99999999999/-5/x|kurz\r\n#TAG:5\r\n#OPT:\r\n")
+    for name in ("datensatz", "optionen", "umlaute", "kaputt"):
+        with open(os.path.join(HIER, "indexzeilen", name), "rb") as f:
+            schreiben("indexrundreise", name, f.read())
 
 
 def medien_korpus():
