@@ -27,7 +27,8 @@ int main(int argc, char** argv) {
             return 1;
         }
     }
-    const AbsturzBericht b = AbsturzProben(IndexUmschalten(pfad), [&] { return DateiLesen(pfad); }, schüsse, 1);
+    const AbsturzBericht b = AbsturzProben(
+        IndexUmschalten(pfad), [&] { return DateiLesen(pfad); }, schüsse, 1);
     std::printf("Einträge=%d\nSchüsse=%d\nGetötet=%d\nVorherFertig=%d\nAlt=%d\nNeu=%d\nSchreibenMs=%lld\nFehler=%zu\n",
                 anzahl, b.schüsse, b.getötet, b.vorherFertig, b.alt, b.neu,
                 static_cast<long long>(b.schreibenUs / 1000), b.fehler.size());

@@ -54,13 +54,14 @@ DateiInfo TagLesen(const std::string& pfad) {
 TEST(Absturz, IndexSpeichernIstAltOderNeu) {
     TestOrdner o("/dev/shm");
     const std::string pfad = o / "i.kkt";
-    constexpr int32_t kAnzahl = 1000;
+    constexpr int32_t kAnzahl = 500;
     {
         TestUmgebung u;
         IndexErzeugen(u.k, kAnzahl, 7);
         ASSERT_TRUE(DateiSpeichern(u.k, pfad, false));
     }
-    const AbsturzBericht b = AbsturzProben(IndexUmschalten(pfad), [&] { return DateiLesen(pfad); }, kSchüsse, 18);
+    const AbsturzBericht b = AbsturzProben(
+        IndexUmschalten(pfad), [&] { return DateiLesen(pfad); }, kSchüsse, 18);
     EXPECT_EQ(Fehlerliste(b), "");
     EXPECT_EQ(b.schüsse, kSchüsse);
     EXPECT_GT(b.getötet, 0);
@@ -95,7 +96,8 @@ TEST(Absturz, TagNeuSchreibenIstAltOderNeu) {
         d.Mp3_ID3v2_TPE1 = "Interpret";
         return MP3TagSpeichernV2Datei(u.k, pfad, fehler, d);
     };
-    const AbsturzBericht b = AbsturzProben(umschalten, [&] { return DateiLesen(pfad); }, kSchüsse, 19);
+    const AbsturzBericht b = AbsturzProben(
+        umschalten, [&] { return DateiLesen(pfad); }, kSchüsse, 19);
     EXPECT_EQ(Fehlerliste(b), "");
     EXPECT_EQ(b.schüsse, kSchüsse);
     EXPECT_GT(b.getötet, 0);
@@ -128,7 +130,8 @@ TEST(Absturz, TagAnOrtUndStelleIstAltOderNeu) {
         std::string fehler;
         return MP3TagSpeichernV2Datei(u.k, pfad, fehler, d);
     };
-    const AbsturzBericht b = AbsturzProben(umschalten, [&] { return DateiLesen(pfad); }, kSchüsse, 20);
+    const AbsturzBericht b = AbsturzProben(
+        umschalten, [&] { return DateiLesen(pfad); }, kSchüsse, 20);
     EXPECT_EQ(Fehlerliste(b), "");
     EXPECT_EQ(b.schüsse, kSchüsse);
     const std::string jetzt = DateiLesen(pfad);

@@ -44,16 +44,14 @@ Kind Starten(const AbsturzVorgang& vorgang) {
 bool Abwarten(const Kind& kind, char erwartet) {
     char c = 0;
     ssize_t n;
-    while ((n = ::read(kind.lesen, &c, 1)) < 0 && errno == EINTR) {
-    }
+    while ((n = ::read(kind.lesen, &c, 1)) < 0 && errno == EINTR) {}
     return n == 1 && c == erwartet;
 }
 
 // Rückgabe des Kindes wie in der Shell: 0..255 oder 128 + Signal.
 int Ernten(Kind& kind) {
     int status = 0;
-    while (::waitpid(kind.pid, &status, 0) < 0 && errno == EINTR) {
-    }
+    while (::waitpid(kind.pid, &status, 0) < 0 && errno == EINTR) {}
     ::close(kind.lesen);
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
@@ -106,7 +104,9 @@ AbsturzBericht AbsturzProben(const AbsturzVorgang& vorgang, const std::function<
         ++b.schüsse;
         if (rückgabe == 128 + SIGKILL) ++b.getötet;
         else if (rückgabe == 0 && begonnen) ++b.vorherFertig;
-        else b.fehler.push_back("Schuss " + std::to_string(schuss) + ": Vorgang scheiterte (" + std::to_string(rückgabe) + ")");
+        else
+            b.fehler.push_back("Schuss " + std::to_string(schuss) + ": Vorgang scheiterte (" +
+                               std::to_string(rückgabe) + ")");
         const size_t jetzt = prüfsumme(inhalt());
         if (jetzt == a) ++b.alt;
         else if (jetzt == neu) ++b.neu;

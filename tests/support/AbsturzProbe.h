@@ -15,10 +15,10 @@ void AbsturzSchreibenBeginnt();
 
 struct AbsturzBericht {
     int schüsse = 0;
-    int getötet = 0;       // SIGKILL traf den Vorgang mitten im Schreiben
-    int vorherFertig = 0;  // der Vorgang war schon fertig, als der Schuss kam
-    int alt = 0, neu = 0;  // danach stand der Zustand A bzw. B auf der Platte
-    int64_t schreibenUs = 0;      // Dauer eines ungestörten Schreibens bis zur Rückkehr (Spanne der Zeitpunkte)
+    int getötet = 0;                  // SIGKILL traf den Vorgang mitten im Schreiben
+    int vorherFertig = 0;             // der Vorgang war schon fertig, als der Schuss kam
+    int alt = 0, neu = 0;             // danach stand der Zustand A bzw. B auf der Platte
+    int64_t schreibenUs = 0;          // Dauer eines ungestörten Schreibens bis zur Rückkehr (Spanne der Zeitpunkte)
     std::vector<std::string> fehler;  // leer, wenn alles stimmte
 };
 
