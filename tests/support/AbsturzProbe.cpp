@@ -72,7 +72,7 @@ int64_t UngestörtLaufen(const AbsturzVorgang& vorgang) {
 void AbsturzSchreibenBeginnt() { Melden('s'); }
 
 AbsturzBericht AbsturzProben(const AbsturzVorgang& vorgang, const std::function<std::string()>& inhalt, int schüsse,
-                             uint32_t saat) {
+                             uint32_t saat, const std::function<bool(const std::string&)>& zwischenZulässig) {
     AbsturzBericht b;
     const std::hash<std::string> prüfsumme;
     // Ein erster Lauf bringt den Inhalt in seine Form (etwa einen Tag mit Auffüllung).
@@ -107,9 +107,11 @@ AbsturzBericht AbsturzProben(const AbsturzVorgang& vorgang, const std::function<
         else
             b.fehler.push_back("Schuss " + std::to_string(schuss) + ": Vorgang scheiterte (" +
                                std::to_string(rückgabe) + ")");
-        const size_t jetzt = prüfsumme(inhalt());
+        const std::string stand = inhalt();
+        const size_t jetzt = prüfsumme(stand);
         if (jetzt == a) ++b.alt;
         else if (jetzt == neu) ++b.neu;
+        else if (zwischenZulässig && zwischenZulässig(stand)) ++b.zwischen;
         else b.fehler.push_back("Schuss " + std::to_string(schuss) + ": weder alter noch neuer Inhalt");
     }
     return b;
