@@ -52,7 +52,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* daten, size_t größe) {
     std::string fehler;
     const bool geschrieben = MP3TagSpeichernV2Datei(fk.k(), pfad, fehler, info);
     const std::string neu = Lesen(pfad);
-    if (!geschrieben && neu != alt) std::abort();  // gescheitert, aber die Datei ist verändert
+    if (!geschrieben && neu != alt) std::abort();             // gescheitert, aber die Datei ist verändert
     if (geschrieben && !neu.ends_with(hinten)) std::abort();  // Audiodaten verändert
     return 0;
 }

@@ -73,7 +73,10 @@ def medien_korpus():
         if v != 2:
             liste += [(b"TRCK", b"\x037/12"), (b"TXXX", b"\0Name\0Wert"), (b"PCNT", b"\0\0\0\x05")]
         schreiben("id3v2", f"v2{v}", b"\0" + id3v2(v, liste) + frame)
+        schreiben("id3v2schreiben", f"v2{v}", id3v2(v, liste, auffüllen=40) + frame * 2)
     schreiben("id3v2", "v24_fusszeile", b"\0" + id3v2(4, [(b"TIT2", text)], flags=0x10) + b"3DI\x04\0\x10" + syncsafe(20))
+    schreiben("id3v2schreiben", "ohne_tag", frame * 2)
+    schreiben("id3v2schreiben", "unsync", id3v2(3, [(b"TIT2", b"\0\xff\0Lied")], flags=0x80) + frame)
     schreiben("id3v2", "spaet", b"\x90" + bytes(300) + id3v2(3, [(b"TALB", b"\0Album")]))
     schreiben("mpeg", "cbr", frame * 3)
     xing = b"\xff\xfb\x90\x64" + bytes(32) + b"Xing" + struct.pack(">II", 15, 1000) + struct.pack(">I", 400000)
@@ -102,7 +105,16 @@ def text_korpora():
     schreiben("einstellungen", "kaputt", "=t:x\n#Kommentar\nStart=z:99999999999\nStart=q:1\nA=t\r\nB=z:-7\r\n")
 
 
+def internet_korpus():
+    schreiben("internet", "typisch", "InetURLs100\r\n' Anmerkung\r\n\r\n#Wikipedia (deutsch)\r\n"
+              "https://de.wikipedia.org/w/index.php?search=%Suche%\r\n#Discogs – Diskografien\r\n"
+              "https://www.discogs.com/search/?q=%Suche%&type=all\r\n")
+    schreiben("internet", "lf", "InetURLs100\n#Name\nhttps://a.example/?q=%Suche%\n#Ohne Adresse\n")
+    schreiben("internet", "falsch", "InetURLs099\n#Name\n")
+
+
 if __name__ == "__main__":
     index_korpus()
     medien_korpus()
     text_korpora()
+    internet_korpus()
