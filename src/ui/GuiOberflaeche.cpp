@@ -182,6 +182,7 @@ bool GuiOberfläche::DateiZumSpeichernWählen(const std::string& titel, const st
 }
 
 QWidget* GuiOberfläche::SichtbarerBesitzer() const {
+    if (vordergrund && vordergrund->isVisible()) return vordergrund;
     QWidget* b = Besitzer();
     return b && b->isVisible() ? b : nullptr;
 }

@@ -48,6 +48,10 @@ public:
     // Bildschirms statt an einem Hauptfenster, das noch gar nicht gezeigt wird.
     QWidget* SichtbarerBesitzer() const;
 
+    // Ein Fenster über dem Besitzer (der Tag-Editor): solange es zu sehen ist, gehören ihm
+    // Meldungen, Dialoge und das Fortschrittsfenster, sonst wären sie hinter ihm gesperrt.
+    QPointer<QWidget> vordergrund;
+
     // Das Hauptfenster hängt sich hier ein.
     std::function<void(const std::string&, int32_t)> titelNachricht;
     std::function<void()> fortschrittAbbrechen;  // Knopf "Abbrechen" des Fortschrittsfensters

@@ -9,6 +9,7 @@
 #include "ui/SongListe.h"
 #include "ui/Umrechnung.h"
 #include "ui/dialoge/BerichteZeigen.h"
+#include "ui/dialoge/frmMp3Tag.h"
 #include "ui/frmMain.h"
 
 #include <QAction>
@@ -51,7 +52,7 @@ void frmMain::BefehleAnlegen() {
         {&B::cmdAnhängen, "cmdAnhängen", "In Playlist", &frmMain::NichtEingebaut},
         {&B::cmdEintragAusführen, "cmdEintragAusführen", "Ausführen", &frmMain::NichtEingebaut},
         {&B::cmdEintragAusführenMit, "cmdEintragAusführenMit", "Ausführen mit", &frmMain::NichtEingebaut},
-        {&B::cmdMp3TagAnzeigen, "cmdMp3TagAnzeigen", "Datei-Infos", &frmMain::NichtEingebaut},
+        {&B::cmdMp3TagAnzeigen, "cmdMp3TagAnzeigen", "Datei-Infos", &frmMain::cmdMp3TagAnzeigen_Click},
         {&B::cmdExportieren, "cmdExportieren", "Export", &frmMain::cmdExportieren_Click},
         {&B::cmdDateiEntfernen, "cmdDateiEntfernen", "Aus Index entfernen", &frmMain::cmdDateiEntfernen_Click},
         {&B::cmdDateienLöschen, "cmdDateienLöschen", "Löschen", &frmMain::NichtEingebaut},
@@ -196,6 +197,15 @@ void frmMain::cmdExportieren_Click() {
     ExportierenZeigen(this, k_, AusgewählteDateien(), AusgewähltAnzahl());
 }
 
+void frmMain::cmdMp3TagAnzeigen_Click() {
+    AuswahlAktualisieren();
+    std::vector<int32_t> einträge;
+    for (int32_t i = 1; i <= AusgewähltAnzahl(); ++i) einträge.push_back(AusgewählteDateien()[i]);
+    if (einträge.empty()) return;
+    TagEditorZeigen(this, k_, ui_, einträge);
+    SucheNachlauf();
+}
+
 void frmMain::cmdAuswählen_Click() {
     MenüZustandSetzen(false);
     LinkLabel* knopf = links_->Verweis(befehle_.cmdAuswählen);
@@ -246,5 +256,6 @@ void frmMain::mnu_song_zwischenablage_Click() {
 void frmMain::lstSongs_DblClick() {
     AuswahlAktualisierenUndZeigen();
     if (AusgewähltAnzahl() < 1) return;
+    if (k_.E.BeiDoppelklick == 3) befehle_.cmdMp3TagAnzeigen->trigger();
     NichtEingebaut();  // Abspielen nach BeiDoppelklick kommt mit dem Spieler
 }
