@@ -142,7 +142,8 @@ bool MedienInfosEintragen(Kartei& k, TagEditorAnsicht& a, DateiInfo& info, const
         a.cbov2Musikrichtung.clear();
     }
     if (f[2] == '1') {
-        for (auto* t : {&a.txtIndexHinzugefügtAm, &a.txtIndexDatenträger, &a.txtIndexAbspielAnzahl, &a.txtIndexAbspielDatum})
+        for (auto* t :
+             {&a.txtIndexHinzugefügtAm, &a.txtIndexDatenträger, &a.txtIndexAbspielAnzahl, &a.txtIndexAbspielDatum})
             t->clear();
     }
     if (!vorhanden) {

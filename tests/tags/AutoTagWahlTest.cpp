@@ -65,8 +65,7 @@ TEST(AutoTagWahl, FormateWählenÄndernEntfernen) {
     EXPECT_EQ(u.k.E.AutoTagFelderLöschen, 1);
 
     // Alle Formate entfernt: die Liste gilt als leer.
-    while (AutoTagFormatEntfernen(w)) {
-    }
+    while (AutoTagFormatEntfernen(w)) {}
     AutoTagWahlÜbernehmen(u.k, w);
     EXPECT_EQ(u.k.E.AutoTagLeer, 1);
     EXPECT_TRUE(AutoTagWahlLaden(u.k).formate.empty());

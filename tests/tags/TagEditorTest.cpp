@@ -24,7 +24,8 @@ int32_t Eintragen(Kartei& k, const std::string& pfad) {
 
 std::string Mp3(const std::string& titel, const std::string& v2Titel) {
     mpeg::V2Tag v2;
-    v2.rahmen = {mpeg::Text("TIT2", v2Titel), mpeg::Text("TPE1", "Wer2"), mpeg::Text("TXXX", std::string("info\0wert", 9))};
+    v2.rahmen = {mpeg::Text("TIT2", v2Titel), mpeg::Text("TPE1", "Wer2"),
+                 mpeg::Text("TXXX", std::string("info\0wert", 9))};
     v2.padding = 40;
     std::string audio;
     for (int i = 0; i < 5; ++i) audio += mpeg::Frame(mpeg::Kopf{});
@@ -63,10 +64,12 @@ TEST(TagEditor, InformationstexteZeileFürZeile) {
     u.k.E.TAGsSoftwareFeldSchreiben = 1;
     ASSERT_TRUE(MedienInfosEintragen(u.k, a, d, o / "x.mp3", "000"));
     EXPECT_EQ(a.lblTrackInfos, "Hinweis: Hier finden Sie einige Informationen über die gewählte Datei.\n\n"
-                               "Dateiname: " + (o / "x.mp3") + "\nDateigröße: 3.145.728 Bytes\n"
-                               "MPEG Version: 1 Layer 3\nModus: Joint Stereo, 44100 Hz\nBitrate: 192 kbps VBR\n"
-                               "Dauer: 4:05\nAnzahl Frames: 9388\nCopyright: Nein\nCRC: Ja\nEmphasis: 50/15 ms\n"
-                               "Original: Ja\nPadding: Nein\nPrivat: Nein");
+                               "Dateiname: " +
+                                   (o / "x.mp3") +
+                                   "\nDateigröße: 3.145.728 Bytes\n"
+                                   "MPEG Version: 1 Layer 3\nModus: Joint Stereo, 44100 Hz\nBitrate: 192 kbps VBR\n"
+                                   "Dauer: 4:05\nAnzahl Frames: 9388\nCopyright: Nein\nCRC: Ja\nEmphasis: 50/15 ms\n"
+                                   "Original: Ja\nPadding: Nein\nPrivat: Nein");
     EXPECT_EQ(a.lblID3v1Info, "Der gefundene ID3v1-TAG belegt 128 Bytes.");
     EXPECT_EQ(a.lblID3v2Info, "Der gefundene ID3v2-TAG belegt 2048 Bytes und liegt in der Version 3.0 vor. Dieser "
                               "enthält noch weitere, hier nicht angezeigte Felder. 549 Bytes sind ungenutzt.");

@@ -42,14 +42,15 @@ std::string Mp3(const std::string& name) {
 // Was mutagen als ID3v2-Rahmen liest: "TIT2=..." je Zeile, sortiert.
 std::string Mutagen(const std::string& pfad) {
     return ShellAufruf(std::string(KK_PYTHON) +
-                  " -c \"import sys; from mutagen.id3 import ID3; t = ID3(sys.argv[1], load_v1=False); "
-                  "print('|'.join(sorted(k + '=' + str(t[k]) for k in t.keys())))\" '" + pfad + "' 2>&1")
+                       " -c \"import sys; from mutagen.id3 import ID3; t = ID3(sys.argv[1], load_v1=False); "
+                       "print('|'.join(sorted(k + '=' + str(t[k]) for k in t.keys())))\" '" +
+                       pfad + "' 2>&1")
         .second;
 }
 
 int Vergleich(const std::string& vorher, const std::string& nachher, const std::string& schalter) {
     const auto [code, aus] = ShellAufruf(std::string(KK_PYTHON) + " " + KK_ID3_VERGLEICH + " '" + vorher + "' '" +
-                                    nachher + "' " + schalter + " 2>&1");
+                                         nachher + "' " + schalter + " 2>&1");
     if (code != 0) qWarning("%s", aus.c_str());
     return code;
 }
@@ -131,8 +132,7 @@ void TagEditorFensterTest::DreiDateienBearbeiten() {
     QVERIFY(Drücken(f, "cmdFunktionAusführen"));
     QVERIFY(u.MeldungGezeigt("Möchten Sie die Funktion 'Schreibweise: Groß' tatsächlich für 'Alle ID3v1- und "
                              "ID3v2-TAGs' anwenden?"));
-    QCOMPARE(Mutagen(o / "c.mp3"),
-             std::string("COMM::eng=SCHÖN|TALB=PLATTE|TIT2=LIED C|TLAN=deu|TPE1=BAND\n"));
+    QCOMPARE(Mutagen(o / "c.mp3"), std::string("COMM::eng=SCHÖN|TALB=PLATTE|TIT2=LIED C|TLAN=deu|TPE1=BAND\n"));
     QCOMPARE(Vergleich(o / "c-vorher.mp3", o / "c.mp3", "--geaendert TIT2 TPE1 TALB COMM"), 0);
     QCOMPARE(MedienInfosLesen(u.k, o / "b.mp3", DateiInfo{}, "10", false, "0", "0").Mp3_ID3v1_Titel,
              std::string("TITEL B"));

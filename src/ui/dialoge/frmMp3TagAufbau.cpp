@@ -52,9 +52,8 @@ void SeiteFüllen(QWidget* seite, QLayout* felder, QLabel* text, QCheckBox* hake
 std::vector<std::pair<QString, int32_t>> GenresSortiert() {
     std::vector<std::pair<QString, int32_t>> g;
     for (int32_t code = 0; code < GenreAnzahl(); ++code) g.emplace_back(Q(GenreName(code)), code);
-    std::sort(g.begin(), g.end(), [](const auto& a, const auto& b) {
-        return QString::localeAwareCompare(a.first, b.first) < 0;
-    });
+    std::sort(g.begin(), g.end(),
+              [](const auto& a, const auto& b) { return QString::localeAwareCompare(a.first, b.first) < 0; });
     return g;
 }
 }  // namespace

@@ -26,8 +26,8 @@ frmMp3TagAutoTagWählen::frmMp3TagAutoTagWählen(QWidget* besitzer, Kartei& k)
     setObjectName(QStringLiteral("frmMp3TagAutoTagWählen"));
     setWindowTitle(QStringLiteral("AutoTAG einstellen"));
 
-    auto* fraFormate = Benannt(new QGroupBox(QStringLiteral("Format, nach dem der TAG erkannt wird"), this),
-                               "fraFormate");
+    auto* fraFormate =
+        Benannt(new QGroupBox(QStringLiteral("Format, nach dem der TAG erkannt wird"), this), "fraFormate");
     lstFormate_ = Liste(fraFormate, "lstFormate");
     txtFormat_ = Benannt(new QLineEdit(fraFormate), "txtFormat");
     auto* cmdHinzufügen = Knopf(fraFormate, "cmdHinzufügen", "&Hinzufügen");
@@ -48,8 +48,8 @@ frmMp3TagAutoTagWählen::frmMp3TagAutoTagWählen(QWidget* besitzer, Kartei& k)
     formate->addWidget(platzhalter, 2, 0, 1, 4);
     formate->setColumnStretch(0, 1);
 
-    auto* fraAusschluß = Benannt(new QGroupBox(QStringLiteral("Wörter, die nie ein Feld werden"), this),
-                                 "fraAusschluß");
+    auto* fraAusschluß =
+        Benannt(new QGroupBox(QStringLiteral("Wörter, die nie ein Feld werden"), this), "fraAusschluß");
     lstAusschluß_ = Liste(fraAusschluß, "lstAusschluß");
     txtAusschluß_ = Benannt(new QLineEdit(fraAusschluß), "txtAusschluß");
     auto* cmdAusschlußHinzufügen = Knopf(fraAusschluß, "cmdAusschlußHinzufügen", "Hin&zufügen");
@@ -61,9 +61,10 @@ frmMp3TagAutoTagWählen::frmMp3TagAutoTagWählen(QWidget* besitzer, Kartei& k)
     ausschluß->addWidget(cmdAusschlußEntfernen, 1, 2);
     ausschluß->setColumnStretch(0, 1);
 
-    chkUnterstrichEntfernen_ =
-        Benannt(new QCheckBox(QStringLiteral("Unterstriche wie Leerzeichen behandeln"), this), "chkUnterstrichEntfernen");
-    chkFelderLöschen_ = Benannt(new QCheckBox(QStringLiteral("'Alte' Daten werden gelöscht"), this), "chkFelderLöschen");
+    chkUnterstrichEntfernen_ = Benannt(new QCheckBox(QStringLiteral("Unterstriche wie Leerzeichen behandeln"), this),
+                                       "chkUnterstrichEntfernen");
+    chkFelderLöschen_ =
+        Benannt(new QCheckBox(QStringLiteral("'Alte' Daten werden gelöscht"), this), "chkFelderLöschen");
     chkUnterstrichEntfernen_->setChecked(w_.unterstrichEntfernen);
     chkFelderLöschen_->setChecked(w_.felderLöschen);
     QPushButton* cmdOk = nullptr;
