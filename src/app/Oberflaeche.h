@@ -59,4 +59,7 @@ public:
     // Dateien wählen (Filter "Name|*.mp3;*.ogg|..."); false = Abbrechen.
     virtual bool DateienWählen(const std::string& titel, const std::string& filter,
                                std::vector<std::string>& dateien) = 0;
+    // Das Ziel einer Verschiebung besteht schon (frmVerschiebenDateiExistiert); text ist die fertige
+    // Beschreibung. 1 = umbenennen (-0, -1, …), 2 = ersetzen, 3 = abbrechen.
+    virtual int16_t VerschiebenDateiExistiert(const std::string& text) = 0;
 };

@@ -15,6 +15,10 @@ extern const Befehl BefehlAdd, BefehlImport, BefehlScan, BefehlTypes;
 extern const Befehl BefehlSearch, BefehlSort, BefehlComplete;
 // Berichte
 extern const Befehl BefehlExport, BefehlStats, BefehlDupes;
+// Dateien
+extern const Befehl BefehlRename;
+// Dateioperationen
+extern const Befehl BefehlMove, BefehlCopy, BefehlPropose, BefehlDelete, BefehlSync;
 
 const std::vector<Befehl>& AlleBefehle() {
     static const std::vector<Befehl> befehle = {
@@ -43,6 +47,14 @@ const std::vector<Befehl>& AlleBefehle() {
         BefehlExport,
         BefehlStats,
         BefehlDupes,
+        // Dateien
+        BefehlRename,
+        // Dateioperationen
+        BefehlMove,
+        BefehlCopy,
+        BefehlPropose,
+        BefehlDelete,
+        BefehlSync,
     };
     return befehle;
 }

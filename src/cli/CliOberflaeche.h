@@ -17,6 +17,8 @@ public:
                        int32_t) override;
     bool OrdnerWählen(const std::string& titel, std::string& ordner) override;
     bool DateienWählen(const std::string& titel, const std::string& filter, std::vector<std::string>& dateien) override;
+    // Ohne --yes abbrechen, mit --yes umbenennen (-0, -1, …): nie ungefragt ersetzen.
+    int16_t VerschiebenDateiExistiert(const std::string& text) override;
 
     // Fragen mit drei Knöpfen (Ja/Nein/Abbrechen) auch mit --yes abbrechen (export: niemand
     // soll ungefragt ein Anzeigeprogramm bekommen).

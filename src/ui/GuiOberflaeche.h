@@ -34,6 +34,7 @@ public:
                        int32_t auswahlLänge) override;
     bool OrdnerWählen(const std::string& titel, std::string& ordner) override;
     bool DateienWählen(const std::string& titel, const std::string& filter, std::vector<std::string>& dateien) override;
+    int16_t VerschiebenDateiExistiert(const std::string& text) override;
 
     // Einen Dialog modal zeigen; mit dialogSkript wird er nur gezeigt und dem Skript übergeben.
     // Ergebnis: QDialog::result() danach.
