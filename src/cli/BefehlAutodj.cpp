@@ -59,6 +59,5 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
 }
 }  // namespace
 
-extern const Befehl BefehlAutodj = {"autodj", Aufruf,
-                                    "AutoDJ: oft gespielte Dateien der Genres gemischt vorschlagen (Nummer<TAB>Text)",
-                                    Ausführen};
+extern const Befehl BefehlAutodj = {
+    "autodj", Aufruf, "AutoDJ: oft gespielte Dateien der Genres gemischt vorschlagen (Nummer<TAB>Text)", Ausführen};

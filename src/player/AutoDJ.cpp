@@ -44,7 +44,8 @@ bool EingabenPrüfen(Kartei& k, const AutoDJOptionen& o) {
     if (o.Genres.empty()) fehler = "Bitte wählen Sie mindestens ein Genre aus der Liste.";
     else if (!o.txtZeit.empty() && !IstNumerisch(o.txtZeit))
         fehler = "Bitte wählen Sie eine Zahl in das Feld 'Auslassen' ein oder leeren Sie dieses.";
-    else if (!IstNumerisch(o.txtMaximum)) fehler = "Bitte geben Sie eine Zahl in das Feld 'Finde so viele Dateien' ein.";
+    else if (!IstNumerisch(o.txtMaximum))
+        fehler = "Bitte geben Sie eine Zahl in das Feld 'Finde so viele Dateien' ein.";
     if (fehler) k.ui.MeldungZeigen(fehler, Meldung::Information);
     return fehler == nullptr;
 }
@@ -95,16 +96,14 @@ void Sammeln(Kartei& k, const AutoDJOptionen& o, GenreFilter& filter, int64_t du
     int32_t platz = 0;
     for (int32_t e = 1; e <= k.DateiAnzahl && platz < kandidaten.UBound(); ++e) {
         const DateiInfo& d = k.DateiDaten[e];
-        if (d.Datei_AngefordertAnzahl < 1 || d.Datei_AngefordertAnzahl < durchschnitt || !filter.NimmtTeil(e))
-            continue;
+        if (d.Datei_AngefordertAnzahl < 1 || d.Datei_AngefordertAnzahl < durchschnitt || !filter.NimmtTeil(e)) continue;
         if (!o.txtZeit.empty()) {
             Datum gespielt;
             if (!DatumLesen(d.Datei_AngefordertGespieltAm, gespielt)) {
                 KK_TRACE("cmdErstellen_Click", "'" + k.DateiPfade[e] + "' ignoriert - Datum ungültig");
                 continue;
             }
-            if (!(static_cast<double>(DatumDifferenz(EinheitFür(o.cboZeiteinheit), gespielt, jetzt)) > zeit))
-                continue;
+            if (!(static_cast<double>(DatumDifferenz(EinheitFür(o.cboZeiteinheit), gespielt, jetzt)) > zeit)) continue;
         }
         kandidaten[++platz] = e;
     }
@@ -199,8 +198,7 @@ bool AutoDJErstellen(Kartei& k, const AutoDJOptionen& o, std::vector<AutoDJZeile
     }
     const auto durchschnitt = static_cast<int64_t>(RundenGerade(double(u.Summe) / double(u.Anzahl)));
     int64_t größe = 0;
-    for (auto it = u.Häufigkeit.lower_bound(int32_t(durchschnitt)); it != u.Häufigkeit.end(); ++it)
-        größe += it->second;
+    for (auto it = u.Häufigkeit.lower_bound(int32_t(durchschnitt)); it != u.Häufigkeit.end(); ++it) größe += it->second;
     EinsBasiert<int32_t> kandidaten(int32_t(std::max<int64_t>(größe, 1)));
     Sammeln(k, o, filter, durchschnitt, kandidaten);
     Mischen(k, kandidaten);
@@ -222,8 +220,8 @@ AutoDJDetails AutoDJAuswahlDetails(const Kartei& k, const std::vector<int32_t>& 
         const std::string datum = DatumLesen(info.Datei_AngefordertGespieltAm, gespielt)
                                       ? DatumZeitText(gespielt)
                                       : info.Datei_AngefordertGespieltAm;
-        d.lblStatistik = "Zuletzt gespielt am " + datum + ", insgesamt " +
-                         std::to_string(info.Datei_AngefordertAnzahl) + " Mal";
+        d.lblStatistik =
+            "Zuletzt gespielt am " + datum + ", insgesamt " + std::to_string(info.Datei_AngefordertAnzahl) + " Mal";
     }
     return d;
 }

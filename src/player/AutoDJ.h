@@ -13,7 +13,7 @@ inline constexpr const char* AutoDJOhneGenre = "(Dateien ohne Genre)";
 struct AutoDJOptionen {
     std::vector<std::string> Genres;  // die gewählten Einträge von lstFelder
     std::string txtMaximum;
-    std::string txtZeit;      // leer: kein Zeitfenster
+    std::string txtZeit;         // leer: kein Zeitfenster
     int32_t cboZeiteinheit = 2;  // 0 Minuten, 1 Stunden, 2 Tage
     bool chkAlteSeltener = false;
     bool chkSehrAlteHäufiger = false;

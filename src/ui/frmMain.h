@@ -82,6 +82,7 @@ private:
     void cmdIndexStatistik_Click();
     void cmdIndexVerwaltung_Click();
     void cmdExportieren_Click();
+    void cmdAutoDJ_Click();
     void mnu_wählealle_Click();
     void mnu_wählekeine_Click();
     void mnu_wähleumkehren_Click();

@@ -45,8 +45,8 @@ CliErgebnis Cli(const TestOrdner& o, const A& argumente) { return CliMitIndex(KK
 TEST(CliAutoDJ, BeispielUndGrenzen) {
     TestOrdner o;
     IndexSchreiben(o);
-    CliErgebnis e = Cli(o, {"autodj", "--genre", "Rock", "--max", "2", "--zeit", "3", "--einheit", "tage",
-                            "--seltener", "--haeufiger"});
+    CliErgebnis e = Cli(o, {"autodj", "--genre", "Rock", "--max", "2", "--zeit", "3", "--einheit", "tage", "--seltener",
+                            "--haeufiger"});
     EXPECT_EQ(e.rückgabe, 0) << e.fehler;
     const std::string ba = "2\tBand B - Lied B\n1\tBand A - Lied A\n2 Datei(en) gefunden\n";
     const std::string ab = "1\tBand A - Lied A\n2\tBand B - Lied B\n2 Datei(en) gefunden\n";
