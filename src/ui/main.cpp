@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QSessionManager>
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
@@ -34,6 +35,10 @@ int main(int argc, char** argv) {
 
     frmMain fenster(k, ui, standardIndex);
     hauptfenster = &fenster;
+    // Das Ende der Sitzung fragt nicht, was das Schließen tun soll, wohl aber nach dem Index.
+    QObject::connect(&app, &QGuiApplication::commitDataRequest, &fenster, [&fenster](QSessionManager& sitzung) {
+        if (!fenster.SitzungBeenden(sitzung.allowsInteraction())) sitzung.cancel();
+    });
     FensterStarten(k, fenster, ui);
     return app.exec();
 }
