@@ -1,6 +1,9 @@
-// Hilfedatei, Info-Angaben und die Ereignisse des Symbols im Infobereich.
+// Hilfedatei, Info-Angaben, Reihenfolge der Hinweise, Startfehler und die Ereignisse des Symbols
+// im Infobereich.
 #include "shell/Beenden.h"
 #include "shell/Hilfe.h"
+#include "shell/StartFehler.h"
+#include "shell/Tipps.h"
 #include "shell/Tray.h"
 #include "support/Attrappen.h"
 #include "support/TestOrdner.h"
@@ -58,4 +61,39 @@ TEST(Tray, TipptextUndDieFünfEreignisse) {
     lage.minimiert = false;
     lage.versteckt = true;
     EXPECT_EQ(ProgrammZeigenUmschalten(lage), TrayAktion::FensterZeigen);
+}
+
+TEST(Tipps, ZweiundzwanzigInDerBeschriebenenReihenfolge) {
+    // Je Tipp sein Anfang: eine vertauschte oder fehlende Zeile fällt sofort auf.
+    const char* anfänge[] = {"Dieses Fenster gibt Ihnen",
+                             "Sie können mit dem Klangkartei",
+                             "Verwenden Sie Datei-TAGs",
+                             "Sie können zu Dateien jetzt auch",
+                             "Die Funktion 'Umbenennen' kann viel mehr als nur umbenennen!\r\nSie können damit",
+                             "Die Funktion 'Umbenennen' kann viel mehr als nur umbenennen!\r\nWenn Sie z.B.",
+                             "Einen Datei-TAG einzugeben",
+                             "Verwenden Sie die Funktion 'Zielordner vorschlagen'",
+                             "Gibt es eine neue Version",
+                             "Sie können schnell eine Indexdatei öffnen",
+                             "Räumen Sie den Index auf",
+                             "Stellen Sie eine individuelle",
+                             "Möchten Sie Ihre Datei-Sammlung",
+                             "Dateien von verschiendenen CDs",
+                             "Die Such-Funktion wurde verbessert:",
+                             "Sichern Sie Ihre Daten!",
+                             "Sie verwalten viele Dateien",
+                             "Das Fortschrittsfenster stört Sie?",
+                             "Sie können die Geschwindigkeit",
+                             "Nutzen Sie Tastenkombinationen!\r\n[STRG+A]",
+                             "Nutzen Sie Tastenkombinationen!\r\n[EINGABE]",
+                             "Ist Ihr Computer an ein Netzwerk"};
+    ASSERT_EQ(TippsAnzahl(), 22);
+    for (int32_t i = 1; i <= 22; ++i) EXPECT_EQ(TippsTexte(i).rfind(anfänge[i - 1], 0), 0u) << i;
+}
+
+TEST(StartFehler, MeldungMitNummer) {
+    EXPECT_EQ(StartFehlerText(StartFehler::KeinSpeicher),
+              "Das Programm konnte nicht vollständig geladen werden. (Fehler 7).\n\nStellen Sie sicher, daß das "
+              "Programm durch das Setup korrekt installiert wurde. Installieren Sie es gegebenenfalls erneut oder in "
+              "der neuesten Version. Wenn das Problem bestehen bleibt, wenden Sie sich bitte an den Autor.");
 }
