@@ -66,8 +66,8 @@ void AutoDJFensterTest::BeideSeitenUndZeilenbefehle() {
     auto* lstFelder = Kind<QListWidget>(f, "lstFelder");
     auto* lstGefunden = Kind<QListWidget>(f, "lstGefunden");
     QVERIFY(fraSuche && fraErgebnisse && lstFelder && lstGefunden);
-    QCOMPARE(Zeilen(lstFelder), (QStringList{QStringLiteral("Rock"), QStringLiteral("Jazz"),
-                                             QStringLiteral("(Dateien ohne Genre)")}));
+    QCOMPARE(Zeilen(lstFelder),
+             (QStringList{QStringLiteral("Rock"), QStringLiteral("Jazz"), QStringLiteral("(Dateien ohne Genre)")}));
     QCOMPARE(Kind<QLineEdit>(f, "txtMaximum")->text(), QStringLiteral("10"));
     QCOMPARE(Kind<QComboBox>(f, "cboZeiteinheit")->currentText(), QStringLiteral("Tage"));
 
