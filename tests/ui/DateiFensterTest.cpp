@@ -85,7 +85,8 @@ void DateiFensterTest::KopierenMitVorschlagUndZielfrage() {
     u.antworten = {Meldung::Nein};
     QVERIFY(Drücken(f, "cmdOk"));
     QCOMPARE(f.result(), int(QDialog::Accepted));
-    QVERIFY(beschreibung.startsWith(QStringLiteral("Die Datei '") + Q8(o / "neu/a.mp3") + QStringLiteral("' (Größe: 1 Bytes)")));
+    QVERIFY(beschreibung.startsWith(QStringLiteral("Die Datei '") + Q8(o / "neu/a.mp3") +
+                                    QStringLiteral("' (Größe: 1 Bytes)")));
     QCOMPARE(Q8(u.k.DateiPfade[1]), Q8(o / "Queen/a-0.mp3"));
     QCOMPARE(QString::fromStdString(DateiLesen(o / "Queen/a.mp3")), QStringLiteral("schon da"));
     QVERIFY(u.MeldungGezeigt("Der Ordner '" + o / "neu/" + "' ist (nun) leer.\n\nMöchten Sie diesen entfernen?"));
