@@ -60,3 +60,13 @@ bool CliOberfläche::NamenEingeben(const std::string&, const std::string&, std::
 bool CliOberfläche::OrdnerWählen(const std::string&, std::string&) { return false; }
 
 bool CliOberfläche::DateienWählen(const std::string&, const std::string&, std::vector<std::string>&) { return false; }
+
+void CliOberfläche::BildAnzeigen(const std::string& pfad) {
+    if (bildÖffnen) bildÖffnen(pfad);
+}
+
+bool CliOberfläche::AusführenMitWählen(std::string& programm, const std::function<bool(const std::string&)>& prüfen) {
+    if (ausführenMit.empty() || !prüfen(ausführenMit)) return false;
+    programm = ausführenMit;
+    return true;
+}
