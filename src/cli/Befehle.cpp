@@ -15,6 +15,8 @@ extern const Befehl BefehlAdd, BefehlImport, BefehlScan, BefehlTypes;
 extern const Befehl BefehlSearch, BefehlSort, BefehlComplete;
 // Berichte
 extern const Befehl BefehlExport, BefehlStats, BefehlDupes;
+// Spieler
+extern const Befehl BefehlPlay, BefehlPlayer, BefehlMonitor;
 
 const std::vector<Befehl>& AlleBefehle() {
     static const std::vector<Befehl> befehle = {
@@ -43,6 +45,10 @@ const std::vector<Befehl>& AlleBefehle() {
         BefehlExport,
         BefehlStats,
         BefehlDupes,
+        // Spieler
+        BefehlPlay,
+        BefehlPlayer,
+        BefehlMonitor,
     };
     return befehle;
 }

@@ -64,9 +64,3 @@ bool CliOberfläche::DateienWählen(const std::string&, const std::string&, std:
 void CliOberfläche::BildAnzeigen(const std::string& pfad) {
     if (bildÖffnen) bildÖffnen(pfad);
 }
-
-bool CliOberfläche::AusführenMitWählen(std::string& programm, const std::function<bool(const std::string&)>& prüfen) {
-    if (ausführenMit.empty() || !prüfen(ausführenMit)) return false;
-    programm = ausführenMit;
-    return true;
-}

@@ -17,12 +17,11 @@ public:
                        int32_t) override;
     bool OrdnerWählen(const std::string& titel, std::string& ordner) override;
     bool DateienWählen(const std::string& titel, const std::string& filter, std::vector<std::string>& dateien) override;
-    // Ein Bild öffnet das Standardprogramm über diese Funktion (die Kommandozeile hat kein Fenster).
+    // Die Kommandozeile hat kein Fenster: ein Bild geht an bildÖffnen (etwa das Standardprogramm).
     void BildAnzeigen(const std::string& pfad) override;
     std::function<void(const std::string&)> bildÖffnen;
-    // Das Programm nennt der Schalter --program; ohne ihn gilt die Frage als abgebrochen.
-    bool AusführenMitWählen(std::string& programm, const std::function<bool(const std::string&)>& prüfen) override;
-    std::string ausführenMit;
+    // Die Kommandozeile fragt nach keinem Programm: die Frage gilt als abgebrochen.
+    bool AusführenMitWählen(std::string&, const std::function<bool(const std::string&)>&) override { return false; }
 
     // Fragen mit drei Knöpfen (Ja/Nein/Abbrechen) auch mit --yes abbrechen (export: niemand
     // soll ungefragt ein Anzeigeprogramm bekommen).

@@ -29,7 +29,8 @@ std::string FehlerText(int32_t nummer) {
 // Der Fehlerzweig des Abspielens: eine Warnung, dann endet der Vorgang.
 bool Fehlerbehandlung(Kartei& k) {
     const int32_t n = k.Spieler.PlaylistFehler;
-    k.ui.MeldungZeigen("Eine Datei konnte nicht angezeigt werden.\n" + FehlerText(n) + " (Fehler: " + ZahlText(n) + ").",
+    k.ui.MeldungZeigen("Eine Datei konnte nicht angezeigt werden.\n" + FehlerText(n) + " (Fehler: " + ZahlText(n) +
+                           ").",
                        Meldung::Ausrufezeichen);
     return false;
 }
@@ -136,8 +137,8 @@ bool PlaylistÜbergeben(Kartei& k, bool Hinzufügen, bool OhneFokus) {
     if (OhneFokus) ProgrammStartenVB(k, programm, argument);
     else ProgrammStarten(k, programm, argument);
     const std::string name = Anzeige(DateinameAusPfad(k.E.WinampPfad));
-    k.ui.TitelNachrichtZeigen(Hinzufügen ? "Dateien in Playlist bei '" + name + "'" : "Dateien abspielen mit '" + name + "'",
-                              0);
+    k.ui.TitelNachrichtZeigen(
+        Hinzufügen ? "Dateien in Playlist bei '" + name + "'" : "Dateien abspielen mit '" + name + "'", 0);
     return true;
 }
 

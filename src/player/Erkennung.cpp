@@ -118,9 +118,9 @@ bool WinampDateiErkennen(Kartei& k, const std::string& Titel, const Datum& Jetzt
     int32_t gefunden = t.getrennt ? NachTags(k, t, Jetzt) : 0;
     if (gefunden == 0) gefunden = NachDateinamen(k, t, s.AktuellerTitel, Jetzt);
     s.TitelErkannt = gefunden > 0;
-    k.ui.TitelNachrichtZeigen(gefunden == 0 ? "Die derzeit abgespielte Datei wurde nicht erkannt"
-                                            : "Die derzeit abgespielte Datei wurde " + ZahlText(gefunden) +
-                                                  " Mal erkannt",
+    k.ui.TitelNachrichtZeigen(gefunden == 0
+                                  ? "Die derzeit abgespielte Datei wurde nicht erkannt"
+                                  : "Die derzeit abgespielte Datei wurde " + ZahlText(gefunden) + " Mal erkannt",
                               0);
     s.TitelVerarbeitet = 1;
     return true;

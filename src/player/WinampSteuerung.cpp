@@ -39,7 +39,7 @@ bool IstProgramm(const std::string& pfad) {
 }  // namespace
 
 const std::vector<std::string>& BekannteSpieler() {
-    static const std::vector<std::string> namen = {"audacious", "vlc",        "mpv",       "qmmp",
+    static const std::vector<std::string> namen = {"audacious",  "vlc",        "mpv",       "qmmp",
                                                    "clementine", "strawberry", "rhythmbox", "deadbeef",
                                                    "elisa",      "lollypop",   "quodlibet", "gmusicbrowser"};
     return namen;

@@ -11,10 +11,9 @@ struct Kartei;
 
 // Nachrichten und Befehle der Nachrichtentabelle.
 namespace WinampNachricht {
-constexpr uint32_t Befehl = 273;    // WM_COMMAND
+constexpr uint32_t Befehl = 273;     // WM_COMMAND
 constexpr uint32_t Benutzer = 1024;  // WM_USER
-constexpr int32_t Vorheriger = 40044, Spielen = 40045, Pause = 40046, Stopp = 40047, Nächster = 40048,
-                  ZumEnde = 40158;
+constexpr int32_t Vorheriger = 40044, Spielen = 40045, Pause = 40046, Stopp = 40047, Nächster = 40048, ZumEnde = 40158;
 constexpr int32_t PlaylistLeeren = 101, Status = 104, Zeit = 105, Springen = 106, Lautstärke = 122, Balance = 123;
 }  // namespace WinampNachricht
 

@@ -61,7 +61,7 @@ bool Gleich(const std::vector<N>& ist, const std::vector<N>& soll) {
 TEST(AbspielenMediaPlayer, FünfDateienErsteSofortRestAngehängt) {
     Abspielen u;
     u.Eintrag("/m/a.mp3", "Interpret A", "Titel A", 201);
-    u.Eintrag("/m/b.mp3");  // ohne Tag: keine #EXTINF-Zeile
+    u.Eintrag("/m/b.mp3");                  // ohne Tag: keine #EXTINF-Zeile
     u.Eintrag("/m/c.mp3", "C", "Drei", 0);  // Dauer 0: auch keine
     u.Eintrag("/m/d.mp3", "D", "Vier", 1);
     u.Eintrag("/m/e.mp3", "E", "Fünf", 300);

@@ -45,23 +45,22 @@ TEST(Nachrichtentabelle, NummernUndBereiche) {
     u.spieler.gesendet.clear();
     for (int w : {-1, 0, 255, 256}) WinAMP_SetVolume(u.k, w);
     for (int w : {-128, -127, -1, 0, 127, 128}) WinAMP_SetBalance(u.k, w);
-    EXPECT_TRUE(Gleich(u.spieler.gesendet,
-                       {{1024, 0, 122}, {1024, 255, 122}, {1024, 128, 123}, {1024, 254, 123}, {1024, 0, 123},
-                        {1024, 127, 123}}));
+    EXPECT_TRUE(Gleich(
+        u.spieler.gesendet,
+        {{1024, 0, 122}, {1024, 255, 122}, {1024, 128, 123}, {1024, 254, 123}, {1024, 0, 123}, {1024, 127, 123}}));
 
     // Springen nur bis genau zur Länge; bei unbekannter Länge (-1) gar nicht.
     int32_t länge = 40;
-    u.spieler.beantworten = [&länge](uint32_t n, int32_t w, int32_t l) { return n == 1024 && l == 105 && w == 1 ? länge : 0; };
+    u.spieler.beantworten = [&länge](uint32_t n, int32_t w, int32_t l) {
+        return n == 1024 && l == 105 && w == 1 ? länge : 0;
+    };
     u.spieler.gesendet.clear();
     WinAMP_SeekToPosition(u.k, 40);
     WinAMP_SeekToPosition(u.k, 41);
     WinAMP_SeekToPosition(u.k, -1);
     länge = -1;
     WinAMP_SeekToPosition(u.k, 0);
-    EXPECT_TRUE(Gleich(u.spieler.gesendet, {{1024, 1, 105},
-                                            {1024, 40000, 106},
-                                            {1024, 1, 105},
-                                            {1024, 1, 105}}));
+    EXPECT_TRUE(Gleich(u.spieler.gesendet, {{1024, 1, 105}, {1024, 40000, 106}, {1024, 1, 105}, {1024, 1, 105}}));
 }
 
 TEST(Nachrichtentabelle, AbfragenUmgerechnet) {
@@ -136,9 +135,9 @@ TEST(Fenstertitel, NummerUndSpielername) {
     EXPECT_EQ(titel("12. Interpret - Titel - Winamp"), "Interpret - Titel");
     EXPECT_EQ(titel("Interpret - Titel"), "Interpret - Titel");
     EXPECT_EQ(titel("Interpret - Titel - WINAMP [Pausiert]"), "Interpret - Titel");
-    EXPECT_EQ(titel("3.Titel"), "3.Titel");            // ohne ". " bleibt die Nummer
-    EXPECT_EQ(titel("A. B - C"), "A. B - C");          // ohne Ziffer vorn auch
-    EXPECT_EQ(titel("1. 2. Titel"), "2. Titel");      // nur bis zum ersten ". "
+    EXPECT_EQ(titel("3.Titel"), "3.Titel");       // ohne ". " bleibt die Nummer
+    EXPECT_EQ(titel("A. B - C"), "A. B - C");     // ohne Ziffer vorn auch
+    EXPECT_EQ(titel("1. 2. Titel"), "2. Titel");  // nur bis zum ersten ". "
     EXPECT_EQ(titel(""), "");
 }
 
