@@ -30,7 +30,8 @@ bool WertLesen(const std::vector<std::string>& a, int64_t von, int64_t bis, int3
 }
 
 int Ausführen(CliKontext& c, const std::vector<std::string>& a) {
-    if (a.empty()) return GebrauchsFehler("player: status, next, previous, stop, pause, volume, balance oder seek angeben.");
+    if (a.empty())
+        return GebrauchsFehler("player: status, next, previous, stop, pause, volume, balance oder seek angeben.");
     const std::string& was = a[0];
     const bool mitWert = was == "volume" || was == "balance" || was == "seek";
     if (!mitWert && a.size() > 1) return GebrauchsFehler("player " + was + ": unbekanntes Argument '" + a[1] + "'.");
@@ -39,8 +40,8 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& a) {
     if (was == "volume" && !WertLesen(a, 0, 255, wert, fehler)) return fehler;
     if (was == "balance" && !WertLesen(a, -127, 127, wert, fehler)) return fehler;
     if (was == "seek" && !WertLesen(a, 0, INT32_MAX / 1000, wert, fehler)) return fehler;
-    const bool bekannt = mitWert || was == "status" || was == "next" || was == "previous" || was == "stop" ||
-                         was == "pause";
+    const bool bekannt =
+        mitWert || was == "status" || was == "next" || was == "previous" || was == "stop" || was == "pause";
     if (!bekannt) return GebrauchsFehler("player: unbekannter Befehl '" + was + "'.");
 
     Kartei& k = c.k;

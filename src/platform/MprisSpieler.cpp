@@ -64,7 +64,8 @@ std::string MprisFensterText(const QVariantMap& metadaten) {
         interpret = künstler.toStringList().first();
     }
     const QString titel = Entpacken(metadaten.value(QStringLiteral("xesam:title"))).toString();
-    if (!interpret.isEmpty() && !titel.isEmpty()) return QString(interpret + QStringLiteral(" - ") + titel).toStdString();
+    if (!interpret.isEmpty() && !titel.isEmpty())
+        return QString(interpret + QStringLiteral(" - ") + titel).toStdString();
     if (!titel.isEmpty()) return titel.toStdString();
     const QUrl url(Entpacken(metadaten.value(QStringLiteral("xesam:url"))).toString());
     return url.isEmpty() ? std::string() : QFileInfo(url.path()).fileName().toStdString();
@@ -93,8 +94,8 @@ QString MprisSpielerfenster::Dienst(int64_t fenster) const {
 }
 
 QVariant MprisSpielerfenster::Eigenschaft(const QString& dienst, const QString& name) {
-    const QDBusMessage antwort = Rufen(dienst, Pfad, QStringLiteral("org.freedesktop.DBus.Properties"),
-                                       QStringLiteral("Get"), {Spieler, name});
+    const QDBusMessage antwort =
+        Rufen(dienst, Pfad, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"), {Spieler, name});
     if (antwort.type() != QDBusMessage::ReplyMessage || antwort.arguments().isEmpty()) return {};
     return Entpacken(antwort.arguments().constFirst());
 }

@@ -30,6 +30,7 @@ class QPushButton;
 class QStringListModel;
 class QTimer;
 class SongListeAnsicht;
+class SpielerTafel;
 
 class frmMain final : public QMainWindow {
 public:
@@ -119,6 +120,15 @@ private:
     // Suche wie nach dem Start: erstes Feld, leerer Text, Vorschläge des Index; sucht nicht.
     void SucheVorbereiten();
 
+    // Spieler (frmMainSpieler.cpp)
+    void SpielerAufbauen();
+    EinsBasiert<int32_t> Gewählte() const;  // die gewählten Einträge, genau so viele
+    void Abspielen(bool Hinzufügen, bool Ausführen);
+    void cmdEintragAbspielen_Click();
+    void cmdAnhängen_Click();
+    void cmdEintragAusführen_Click();
+    void cmdEintragAusführenMit_Click();
+
     // Schließen (frmMainSchliessen.cpp)
     void FensterLageSpeichern();
     void lblIndexdatei_Click();
@@ -128,6 +138,7 @@ private:
     std::string standardIndex_;
 
     LinkeSpalte* links_ = nullptr;
+    SpielerTafel* fraLinks3_ = nullptr;
     QLabel* lblProgramm_ = nullptr;
     LinkLabel* lblIndexdatei_ = nullptr;
     KlickLabel* lblIndexdateiUntertitel1_ = nullptr;
@@ -150,7 +161,7 @@ private:
     QTimer* tmrListe_ = nullptr;         // 600 ms, einmalig, startet nicht neu
     QTimer* tmrTimer1_ = nullptr;        // Titel tippen und halten
     QTimer* tmrTimer2_ = nullptr;        // Wartezeit vor dem Titel
-    QTimer* tmrScrollUpdate_ = nullptr;  // 500 ms: regelmäßiges Speichern
+    QTimer* tmrScrollUpdate_ = nullptr;  // 500 ms: Spieler, Erkennung, regelmäßiges Speichern
     QTimer* auswahlTimer_ = nullptr;     // fasst viele Auswahländerungen zu einer Anzeige zusammen
     TitelAnimation titel_;
     bool gesperrt_ = false;

@@ -102,9 +102,9 @@ TEST_F(EchterAudacious, FünfDateienDannNeuePlaylist) {
     ASSERT_TRUE(Warten([&] { return Länge() == 5 && Status() == "PLAYING"; })) << Länge() << " " << Status();
     EXPECT_EQ(Stelle(), 0);
     for (int i = 0; i < 5; ++i) {
-        const std::string name = QUrl::fromPercentEncoding(
-                                     AudaciousSitzung::Audacious("SongFilename", {uint(i)}).toString().toUtf8())
-                                     .toStdString();
+        const std::string name =
+            QUrl::fromPercentEncoding(AudaciousSitzung::Audacious("SongFilename", {uint(i)}).toString().toUtf8())
+                .toStdString();
         EXPECT_NE(name.find("Lied " + std::to_string(i + 1) + ".mp3"), std::string::npos) << name;
     }
     EXPECT_TRUE(Warten([&] { return WinampFensterTitel(k, k.Spieler.WinampHandle) == "Interpret 1 - Titel 1"; }));

@@ -11,6 +11,7 @@ int DialogeTestAusführen(int argc, char** argv);
 int FensterTestAusführen(int argc, char** argv);
 int ListeTestAusführen(int argc, char** argv);
 int BerichteFensterTestAusführen(int argc, char** argv);
+int SpielerFensterTestAusführen(int argc, char** argv);
 
 int main(int argc, char** argv) {
     QTemporaryDir xdg;
@@ -28,5 +29,6 @@ int main(int argc, char** argv) {
     fehler += ListeTestAusführen(argc, argv);
     fehler += AnsichtTestAusführen(argc, argv);
     fehler += BerichteFensterTestAusführen(argc, argv);
+    fehler += SpielerFensterTestAusführen(argc, argv);
     return fehler;
 }
