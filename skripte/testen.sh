@@ -8,3 +8,4 @@ cmake --build --preset test
 export QT_QPA_PLATFORM=offscreen
 export ASAN_OPTIONS=detect_leaks=0
 ctest --preset test -j2
+bash skripte/paketpruefung.sh build/test

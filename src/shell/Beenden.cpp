@@ -51,6 +51,8 @@ bool GeändertenIndexSichern(Kartei& k) {
     }
 }
 
+bool SitzungsEndeOhneFrageMöglich(const Kartei& k) { return !k.DateiGeändert || k.E.DateiAutomatischSpeichern == 1; }
+
 bool IndexWechselVorbereiten(Kartei& k) {
     SpaltenSpeichern(k, k.Liste.lstSongs);
     return GeändertenIndexSichern(k);

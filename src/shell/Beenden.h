@@ -42,5 +42,9 @@ int16_t BeendenKnopfGedrückt(Kartei& k, int16_t auswahl, bool immer);
 // DateiAutomatischSpeichern 1 ohne Frage) oder die Person gefragt. false heißt bleiben: sie hat
 // abgebrochen oder das Speichern ist misslungen, damit nichts verloren geht.
 bool GeändertenIndexSichern(Kartei& k);
+// Endet die Sitzung, ohne dass Fragen erlaubt sind, bliebe nur ungefragt speichern oder
+// verwerfen: dann bleibt das Programm (false), außer nichts ist zu sichern oder es speichert
+// ohnehin automatisch.
+bool SitzungsEndeOhneFrageMöglich(const Kartei& k);
 // cmdOk von frmIndexÖffnen: die Spalten der Liste übernehmen, dann GeändertenIndexSichern.
 bool IndexWechselVorbereiten(Kartei& k);

@@ -1,6 +1,11 @@
 #include "ui/Anwendung.h"
 
+#include "platform/Verzeichnisse.h"
+
 #include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -11,6 +16,8 @@ bool AnwendungEinrichten(QApplication& app) {
     // wie das Programm ihn setzt.
     // Die Dateiwahl des Desktops spräche die Sprache des Systems; Qts eigene spricht Deutsch.
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication::setDesktopFileName(QStringLiteral("klangkartei"));
+    QApplication::setWindowIcon(ProgrammSymbol());
     const QLocale deutsch(QLocale::German, QLocale::Germany);
     QLocale::setDefault(deutsch);
     auto* übersetzung = new QTranslator(&app);
@@ -21,4 +28,15 @@ bool AnwendungEinrichten(QApplication& app) {
     }
     QApplication::installTranslator(übersetzung);
     return true;
+}
+
+QIcon ProgrammSymbol() {
+    // Das Symbol des Desktops (Thema), sonst die mitgelieferten Bilder neben share/klangkartei.
+    QIcon symbol;
+    const QString themen = QString::fromStdString(ProgrammDatenOrdner()) + QStringLiteral("/../icons/hicolor");
+    for (const int größe : {16, 24, 32, 48, 64, 128, 256}) {
+        const QString datei = QDir::cleanPath(themen + QStringLiteral("/%1x%1/apps/klangkartei.png").arg(größe));
+        if (QFile::exists(datei)) symbol.addFile(datei, QSize(größe, größe));
+    }
+    return QIcon::fromTheme(QStringLiteral("klangkartei"), symbol);
 }

@@ -9,11 +9,13 @@
 #include "ui/frmMain.h"
 
 #include <QAction>
+#include <QSystemTrayIcon>
 
 void FensterStarten(Kartei& k, frmMain& fenster, GuiOberfläche& ui) {
     fenster.IndexÖffnen();
     const StartDaten start = StartAbschließen(k, TippsAnzahl());
     fenster.ZeitgeberStarten();
+    fenster.TrayIconHinzufügen(QSystemTrayIcon::isSystemTrayAvailable());
     fenster.FensterLageAnwenden(start.fensterZentrieren, start.geometrieAnwenden, start.maximieren);
     fenster.AuswahlBeschreibungAnzeigen();
     fenster.TitelNachrichtZeigen(start.begrüßung, 500);

@@ -15,8 +15,10 @@
 #include <utility>
 #include <vector>
 
+struct FensterLage;
 struct Kartei;
 struct MenüZustand;
+enum class TrayAktion;
 enum class SongSuche;
 class GuiOberfläche;
 class KlickLabel;
@@ -28,6 +30,7 @@ class QLabel;
 class QMenu;
 class QPushButton;
 class QStringListModel;
+class QSystemTrayIcon;
 class QTimer;
 class SongListeAnsicht;
 class SpielerTafel;
@@ -58,6 +61,14 @@ public:
     void FensterLageAnwenden(bool zentrieren, bool geometrie, bool maximieren);
     // Die Befehle des Fensters (Verweise, Menüs, Tasten lösen dieselben Aktionen aus).
     const FensterBefehle& Befehle() const { return befehle_; }
+
+    // Das Symbol im Infobereich einrichten (einmal); anzeigen: ob der Desktop einen Infobereich
+    // hat. Ohne ihn gibt es kein Symbol und "In den Infobereich" verkleinert nur.
+    void TrayIconHinzufügen(bool anzeigen);
+    QSystemTrayIcon* TrayIcon() const { return tray_; }
+    // Das Ende der Sitzung: ohne frmBeenden, aber mit der Frage nach dem geänderten Index.
+    // fragenErlaubt: die Sitzung lässt Fragen zu. false: das Programm bleibt (Sitzungsende abbrechen).
+    bool SitzungBeenden(bool fragenErlaubt);
 
     SongListeAnsicht* lstSongs() const { return lstSongs_; }
     bool ShiftGedrückt() const;
@@ -130,8 +141,18 @@ private:
     void cmdEintragAusführenMit_Click();
 
     // Schließen (frmMainSchliessen.cpp)
+    FensterLage Lage() const;
+    // Sichern vor dem Ende: Lage, Index (oder Frage), Einstellungen. false: bleiben.
+    bool EndeVorbereiten();
     void FensterLageSpeichern();
     void lblIndexdatei_Click();
+
+    // Hilfe, Info, Internet und Infobereich (frmMainDienste.cpp)
+    void cmdHilfe_Click();
+    void cmdInfo_Click();
+    void mnu_song_InfosInternet_Click();
+    void TrayAktionAusführen(TrayAktion aktion);
+    void mnu_rechtsklick_ende_Click();
 
     Kartei& k_;
     GuiOberfläche& ui_;
@@ -168,4 +189,9 @@ private:
     QPointer<QWidget> fokusVorher_;  // hatte den Fokus, bevor das Fenster gesperrt wurde
     bool indexGeladen_ = false;
     bool endeErzwungen_ = false;  // Tag "1": das Menü des Infobereichs will das Ende
+    QSystemTrayIcon* tray_ = nullptr;
+    QMenu* mnu_rechtsklick_ = nullptr;
+    QAction* mnu_rechtsklick_programmzeigen_ = nullptr;
+    bool trayVorhanden_ = false;
+    bool sitzungBeendet_ = false;  // schon gesichert: das folgende Schließen fragt nichts mehr
 };

@@ -59,8 +59,8 @@ void frmMain::BefehleAnlegen() {
          &frmMain::NichtEingebaut},
         {&B::cmdUmbenennen, "cmdUmbenennen", "Umbenennen", &frmMain::NichtEingebaut},
         {&B::cmdOptionen, "cmdOptionen", "Optionen", &frmMain::NichtEingebaut},
-        {&B::cmdHilfe, "cmdHilfe", "Hilfe", &frmMain::NichtEingebaut},
-        {&B::cmdInfo, "cmdInfo", "Infos", &frmMain::NichtEingebaut},
+        {&B::cmdHilfe, "cmdHilfe", "Hilfe", &frmMain::cmdHilfe_Click},
+        {&B::cmdInfo, "cmdInfo", "Infos", &frmMain::cmdInfo_Click},
         {&B::cmdBeenden, "cmdBeenden", "Ende", &frmMain::cmdBeenden_Click},
         {&B::cmdSucheLöschen, "cmdSucheLöschen", "Löschen", &frmMain::cmdSucheLöschen_Click},
         {&B::cmdSucheMehr, "cmdSucheMehr", "Erweiterte Suche", &frmMain::cmdSucheMehr_Click},
@@ -116,7 +116,7 @@ void frmMain::MenüsAufbauen() {
     QAction* trenner = mnu_songkontext_->addSeparator();
     trenner->setObjectName(QStringLiteral("mnu_song_wähletrennzeichen2"));
     QAction* internet = Eintrag(mnu_songkontext_, "mnu_song_InfosInternet", "Weitere Infos im Internet suchen...");
-    connect(internet, &QAction::triggered, this, &frmMain::NichtEingebaut);
+    connect(internet, &QAction::triggered, this, &frmMain::mnu_song_InfosInternet_Click);
     menüRegeln_.insert(menüRegeln_.end(), {{mitNamen, &MenüZustand::mnu_song_mitdiesemnamen},
                                            {ablage, &MenüZustand::mnu_song_zwischenablage},
                                            {trenner, &MenüZustand::mnu_song_wähletrennzeichen2},

@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QScreen>
+#include <QSystemTrayIcon>
 #include <QTimer>
 
 void frmMain::FensterLageAnwenden(bool zentrieren, bool geometrie, bool maximieren) {
@@ -34,17 +35,27 @@ void frmMain::FensterLageSpeichern() {
     k_.E.FensterHeight = PixelZuTwips(lage.height());
 }
 
+FensterLage frmMain::Lage() const {
+    FensterLage lage;
+    lage.versteckt = isHidden();
+    lage.minimiert = isMinimized();
+    lage.endeErzwungen = endeErzwungen_;
+    lage.trayVorhanden = trayVorhanden_;
+    return lage;
+}
+
 void frmMain::closeEvent(QCloseEvent* ereignis) {
     // Während ein Vorgang läuft, endet das Programm nicht: er hält die Tabelle in der Hand.
     if (gesperrt_) {
         ereignis->ignore();
         return;
     }
+    if (sitzungBeendet_) {
+        ereignis->accept();
+        return;
+    }
     SpaltenSpeichern(k_, k_.Liste.lstSongs);
-    FensterLage lage;
-    lage.versteckt = isHidden();
-    lage.minimiert = isMinimized();
-    lage.endeErzwungen = endeErzwungen_;
+    const FensterLage lage = Lage();
     const SchließGrund grund = qApp->isSavingSession() ? SchließGrund::Sitzungsende : SchließGrund::Benutzer;
     BeendenSchritt schritt = BeendenReaktionPrüfen(k_, grund, lage);
     if (schritt == BeendenSchritt::Fragen) {
@@ -60,21 +71,42 @@ void frmMain::closeEvent(QCloseEvent* ereignis) {
         return;
     case BeendenSchritt::InTray:
         ereignis->ignore();
+        if (isMinimized()) showNormal();
         hide();
         return;
     case BeendenSchritt::Abbrechen: ereignis->ignore(); return;
     default: break;
     }
+    if (!EndeVorbereiten()) {
+        ereignis->ignore();
+        return;
+    }
+    ereignis->accept();
+    // Mit Symbol im Infobereich endet das Programm nicht von selbst mit dem letzten Fenster.
+    if (trayVorhanden_) QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+}
+
+bool frmMain::EndeVorbereiten() {
     FensterLageSpeichern();
     if (!GeändertenIndexSichern(k_)) {
-        ereignis->ignore();
+        // Abgebrochen oder nicht gespeichert: das Fenster wieder zeigen, damit nichts verloren geht.
         if (isMinimized() || isHidden()) showNormal();
-        return;
+        return false;
     }
     EinstellungenSpeichern(k_);
     tmrListe_->stop();
     tmrScrollUpdate_->stop();
-    ereignis->accept();
+    if (tray_) tray_->hide();  // TrayIconEntfernen
+    return true;
+}
+
+bool frmMain::SitzungBeenden(bool fragenErlaubt) {
+    if (gesperrt_) return false;
+    if (!fragenErlaubt && !SitzungsEndeOhneFrageMöglich(k_)) return false;
+    SpaltenSpeichern(k_, k_.Liste.lstSongs);
+    if (!EndeVorbereiten()) return false;
+    sitzungBeendet_ = true;
+    return true;
 }
 
 void frmMain::lblIndexdatei_Click() {

@@ -4,18 +4,23 @@
 #include "platform/LinuxDienste.h"
 #include "platform/Verzeichnisse.h"
 #include "shell/Fortschritt.h"
+#include "shell/StartFehler.h"
 #include "ui/Anwendung.h"
 #include "ui/GuiOberflaeche.h"
+#include "ui/Umrechnung.h"
 #include "ui/Programmstart.h"
 #include "ui/frmMain.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QMessageBox>
+#include <QSessionManager>
 
-int main(int argc, char** argv) {
-    QApplication app(argc, argv);
-    AnwendungEinrichten(app);
+#include <exception>
+#include <new>
 
+namespace {
+int Ausführen(QApplication& app, int argc, char** argv) {
     frmMain* hauptfenster = nullptr;
     GuiOberfläche ui([&]() -> QWidget* { return hauptfenster; });
     OrdnerAnlegen(KonfigOrdner());
@@ -34,6 +39,29 @@ int main(int argc, char** argv) {
 
     frmMain fenster(k, ui, standardIndex);
     hauptfenster = &fenster;
+    // Das Ende der Sitzung fragt nicht, was das Schließen tun soll, wohl aber nach dem Index.
+    QObject::connect(&app, &QGuiApplication::commitDataRequest, &fenster, [&fenster](QSessionManager& sitzung) {
+        if (!fenster.SitzungBeenden(sitzung.allowsInteraction())) sitzung.cancel();
+    });
     FensterStarten(k, fenster, ui);
     return app.exec();
+}
+
+void StartFehlerZeigen(int32_t nummer) {
+    QMessageBox::critical(nullptr, QString::fromUtf8(ProgrammTitel), Q(StartFehlerText(nummer)));
+}
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    AnwendungEinrichten(app);
+    // Was bis hierher durchschlägt, kann nur aus der Bibliothek kommen: melden statt abstürzen.
+    try {
+        return Ausführen(app, argc, argv);
+    } catch (const std::bad_alloc&) {
+        StartFehlerZeigen(StartFehler::KeinSpeicher);
+    } catch (const std::exception&) {
+        StartFehlerZeigen(StartFehler::Allgemein);
+    }
+    return 1;
 }

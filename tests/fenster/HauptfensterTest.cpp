@@ -224,3 +224,12 @@ TEST(Beenden, GeänderterIndexWirdGesichertOderNicht) {
     EXPECT_FALSE(GeändertenIndexSichern(u.k));
     EXPECT_TRUE(u.k.DateiGeändert);
 }
+
+TEST(Beenden, SitzungsEndeOhneErlaubnisZuFragen) {
+    TestUmgebung u;
+    EXPECT_TRUE(SitzungsEndeOhneFrageMöglich(u.k));
+    u.k.DateiGeändert = true;
+    EXPECT_FALSE(SitzungsEndeOhneFrageMöglich(u.k));  // weder ungefragt speichern noch verwerfen
+    u.k.E.DateiAutomatischSpeichern = 1;
+    EXPECT_TRUE(SitzungsEndeOhneFrageMöglich(u.k));
+}

@@ -100,7 +100,7 @@ TEST(LinuxDienste, OrteFolgenXdgUndDatenordnerLiegtNebenDemProgramm) {
     EXPECT_EQ(StandardIndexBereitstellen(), o / "daten/klangkartei/Klangkt.kkt");
     EXPECT_TRUE(std::filesystem::is_directory(o / "daten/klangkartei"));
     // Der Build legt data/ unter share/klangkartei ab; das Programm findet es über seinen Pfad.
-    EXPECT_TRUE(std::filesystem::exists(ProgrammDatenOrdner() + "/klangkartei.desktop")) << ProgrammDatenOrdner();
+    EXPECT_TRUE(std::filesystem::exists(ProgrammDatenOrdner() + "/Ineturl.dat")) << ProgrammDatenOrdner();
 
     LinuxDienste dienste;
     EXPECT_EQ(dienste.registrierung.Dateipfad(), o / "konf/klangkartei/klangkartei.conf");

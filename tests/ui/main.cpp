@@ -12,6 +12,7 @@ int FensterTestAusführen(int argc, char** argv);
 int ListeTestAusführen(int argc, char** argv);
 int BerichteFensterTestAusführen(int argc, char** argv);
 int SpielerFensterTestAusführen(int argc, char** argv);
+int DiensteFensterTestAusführen(int argc, char** argv);
 
 int main(int argc, char** argv) {
     QTemporaryDir xdg;
@@ -30,5 +31,6 @@ int main(int argc, char** argv) {
     fehler += AnsichtTestAusführen(argc, argv);
     fehler += BerichteFensterTestAusführen(argc, argv);
     fehler += SpielerFensterTestAusführen(argc, argv);
+    fehler += DiensteFensterTestAusführen(argc, argv);
     return fehler;
 }
