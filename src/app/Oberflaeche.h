@@ -64,4 +64,7 @@ public:
     // Das Programm für "Ausführen mit" wählen (frmAusführenMit), vorbelegt mit programm. prüfen
     // läuft bei OK; solange es false gibt, bleibt die Frage offen. false = Abbrechen.
     virtual bool AusführenMitWählen(std::string& programm, const std::function<bool(const std::string&)>& prüfen) = 0;
+    // Das Ziel einer Verschiebung besteht schon (frmVerschiebenDateiExistiert); text ist die fertige
+    // Beschreibung. 1 = umbenennen (-0, -1, …), 2 = ersetzen, 3 = abbrechen.
+    virtual int16_t VerschiebenDateiExistiert(const std::string& text) = 0;
 };

@@ -64,3 +64,8 @@ bool CliOberfläche::DateienWählen(const std::string&, const std::string&, std:
 void CliOberfläche::BildAnzeigen(const std::string& pfad) {
     if (bildÖffnen) bildÖffnen(pfad);
 }
+
+int16_t CliOberfläche::VerschiebenDateiExistiert(const std::string& text) {
+    std::fprintf(stderr, "%s\n→ %s\n", text.c_str(), ja_ ? "Umbenennen" : "Abbrechen");
+    return ja_ ? 1 : 3;
+}

@@ -22,6 +22,8 @@ public:
     std::function<void(const std::string&)> bildÖffnen;
     // Die Kommandozeile fragt nach keinem Programm: die Frage gilt als abgebrochen.
     bool AusführenMitWählen(std::string&, const std::function<bool(const std::string&)>&) override { return false; }
+    // Ohne --yes abbrechen, mit --yes umbenennen (-0, -1, …): nie ungefragt ersetzen.
+    int16_t VerschiebenDateiExistiert(const std::string& text) override;
 
     // Fragen mit drei Knöpfen (Ja/Nein/Abbrechen) auch mit --yes abbrechen (export: niemand
     // soll ungefragt ein Anzeigeprogramm bekommen).

@@ -5,12 +5,13 @@
 #include "ui/dialoge/frmAusfuehrenMit.h"
 #include "ui/dialoge/frmBildAnzeige.h"
 #include "ui/dialoge/frmDateiNichtVerfuegbar.h"
+#include "ui/dialoge/frmDateiname.h"
+#include "ui/dialoge/frmVerschiebenDateiExistiert.h"
 #include "ui/dialoge/frmFortschritt.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
-#include <QInputDialog>
 #include <QMessageBox>
 
 namespace {
@@ -140,11 +141,18 @@ NichtVerfügbarAntwort GuiOberfläche::DateiNichtVerfügbar(const std::string&, 
     return dialog.DateiNichtVerfügbarAuswahl;
 }
 
-bool GuiOberfläche::NamenEingeben(const std::string& titel, const std::string&, std::string& text, int32_t, int32_t) {
-    bool ok = false;
-    QString neu = QInputDialog::getText(SichtbarerBesitzer(), Q(titel), QString(), QLineEdit::Normal, Q(text), &ok);
-    if (ok) text = S(neu);
-    return ok;
+int16_t GuiOberfläche::VerschiebenDateiExistiert(const std::string& text) {
+    frmVerschiebenDateiExistiert dialog(SichtbarerBesitzer(), text);
+    DialogAusführen(dialog);
+    return dialog.DateiExistiertAuswahl;
+}
+
+bool GuiOberfläche::NamenEingeben(const std::string& titel, const std::string& knopf, std::string& text,
+                                  int32_t auswahlStart, int32_t auswahlLänge) {
+    frmDateiname dialog(SichtbarerBesitzer(), titel, knopf, text, auswahlStart, auswahlLänge);
+    if (DialogAusführen(dialog) != QDialog::Accepted) return false;
+    text = dialog.Text();
+    return true;
 }
 
 bool GuiOberfläche::OrdnerWählen(const std::string& titel, std::string& ordner) {

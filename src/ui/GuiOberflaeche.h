@@ -37,6 +37,7 @@ public:
     bool DateienWählen(const std::string& titel, const std::string& filter, std::vector<std::string>& dateien) override;
     void BildAnzeigen(const std::string& pfad) override;
     bool AusführenMitWählen(std::string& programm, const std::function<bool(const std::string&)>& prüfen) override;
+    int16_t VerschiebenDateiExistiert(const std::string& text) override;
 
     // Einen Dialog modal zeigen; mit dialogSkript wird er nur gezeigt und dem Skript übergeben.
     // Ergebnis: QDialog::result() danach.

@@ -52,7 +52,8 @@ void SpielerTafel::Aufbauen() {
         b->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         knöpfe->addWidget(b, b == cmdAbspielen_ || b == cmdAbspielenStopp_ ? 3 : 2);
     }
-    lblWinampSteuerungPosition_ = Benannt(new QLabel(QStringLiteral("Titelposition"), this), "lblWinampSteuerungPosition");
+    lblWinampSteuerungPosition_ =
+        Benannt(new QLabel(QStringLiteral("Titelposition"), this), "lblWinampSteuerungPosition");
     lblWinampSteuerungVolumen_ = Benannt(new QLabel(QStringLiteral("Lautstärke"), this), "lblWinampSteuerungVolumen");
     lblWinampSteuerungBalance_ = Benannt(new QLabel(QStringLiteral("Balance"), this), "lblWinampSteuerungBalance");
     hscrlTrackPos_ = Regler("hscrlTrackPos", 0, 1000, 0);
@@ -66,9 +67,9 @@ void SpielerTafel::Aufbauen() {
     layout->setSpacing(2);
     layout->addLayout(knöpfe);
     layout->addSpacing(4);
-    for (QWidget* w : std::initializer_list<QWidget*>{lblWinampSteuerungPosition_, hscrlTrackPos_,
-                                                      lblWinampSteuerungVolumen_, hscrlVolume_,
-                                                      lblWinampSteuerungBalance_, hscrlBalance_})
+    for (QWidget* w :
+         std::initializer_list<QWidget*>{lblWinampSteuerungPosition_, hscrlTrackPos_, lblWinampSteuerungVolumen_,
+                                         hscrlVolume_, lblWinampSteuerungBalance_, hscrlBalance_})
         layout->addWidget(w);
 }
 
@@ -83,9 +84,9 @@ void SpielerTafel::Anwenden(const SpielerAnzeige& a, QLabel* kopf) {
                                                           cmdWinampVorheriger_})
             b->setVisible(*a.knöpfe);
     if (a.regler)
-        for (QWidget* w : std::initializer_list<QWidget*>{lblWinampSteuerungPosition_, hscrlTrackPos_,
-                                                          lblWinampSteuerungVolumen_, hscrlVolume_,
-                                                          lblWinampSteuerungBalance_, hscrlBalance_})
+        for (QWidget* w :
+             std::initializer_list<QWidget*>{lblWinampSteuerungPosition_, hscrlTrackPos_, lblWinampSteuerungVolumen_,
+                                             hscrlVolume_, lblWinampSteuerungBalance_, hscrlBalance_})
             w->setVisible(*a.regler);
     if (a.cmdAbspielen) cmdAbspielen_->setText(Q(*a.cmdAbspielen));
     if (a.position) lblWinampSteuerungPosition_->setText(Q(*a.position));

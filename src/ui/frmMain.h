@@ -112,6 +112,13 @@ private:
     void DateienFallengelassen(const QStringList& pfade);
     void cmdDateiEntfernen_Click();
 
+    // Dateien (frmMainDateien.cpp)
+    std::vector<int32_t> GewählteEinträge();  // die Auswahl, frisch aus der Liste gelesen
+    void cmdDateienKopierenVerschieben_Click();
+    void cmdUmbenennen_Click();
+    void cmdDateienLöschen_Click();
+    void cmdListeAufräumen_Click();
+
     // Suche (frmMainSuche.cpp)
     // Die Auswahl, wie AuswahlAktualisieren sie aus der Liste liest.
     const EinsBasiert<int32_t>& AusgewählteDateien() const;

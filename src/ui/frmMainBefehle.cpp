@@ -42,7 +42,7 @@ void frmMain::BefehleAnlegen() {
         void (frmMain::*aktion)();
     } tabelle[] = {
         {&B::cmdIndexErstellen, "cmdIndexErstellen", "Zum Index hinzufügen", &frmMain::cmdIndexErstellen_Click},
-        {&B::cmdListeAufräumen, "cmdListeAufräumen", "Index synchronisieren", &frmMain::NichtEingebaut},
+        {&B::cmdListeAufräumen, "cmdListeAufräumen", "Index synchronisieren", &frmMain::cmdListeAufräumen_Click},
         {&B::cmdIndexVerwaltung, "cmdIndexVerwaltung", "Index-Verwaltung", &frmMain::cmdIndexVerwaltung_Click},
         {&B::cmdIndexStatistik, "cmdIndexStatistik", "Index-Statistiken", &frmMain::cmdIndexStatistik_Click},
         {&B::cmdAutoDJ, "cmdAutoDJ", "AutoDJ", &frmMain::NichtEingebaut},
@@ -54,10 +54,10 @@ void frmMain::BefehleAnlegen() {
         {&B::cmdMp3TagAnzeigen, "cmdMp3TagAnzeigen", "Datei-Infos", &frmMain::NichtEingebaut},
         {&B::cmdExportieren, "cmdExportieren", "Export", &frmMain::cmdExportieren_Click},
         {&B::cmdDateiEntfernen, "cmdDateiEntfernen", "Aus Index entfernen", &frmMain::cmdDateiEntfernen_Click},
-        {&B::cmdDateienLöschen, "cmdDateienLöschen", "Löschen", &frmMain::NichtEingebaut},
+        {&B::cmdDateienLöschen, "cmdDateienLöschen", "Löschen", &frmMain::cmdDateienLöschen_Click},
         {&B::cmdDateienKopierenVerschieben, "cmdDateienKopierenVerschieben", "Kopieren/verschieben",
-         &frmMain::NichtEingebaut},
-        {&B::cmdUmbenennen, "cmdUmbenennen", "Umbenennen", &frmMain::NichtEingebaut},
+         &frmMain::cmdDateienKopierenVerschieben_Click},
+        {&B::cmdUmbenennen, "cmdUmbenennen", "Umbenennen", &frmMain::cmdUmbenennen_Click},
         {&B::cmdOptionen, "cmdOptionen", "Optionen", &frmMain::NichtEingebaut},
         {&B::cmdHilfe, "cmdHilfe", "Hilfe", &frmMain::cmdHilfe_Click},
         {&B::cmdInfo, "cmdInfo", "Infos", &frmMain::cmdInfo_Click},

@@ -46,7 +46,9 @@ template <typename T> bool Nimm(std::deque<T>& quelle, T& ziel, const char* frag
 }
 }  // namespace
 
-bool TestOberfläche::NamenEingeben(const std::string&, const std::string&, std::string& text, int32_t, int32_t) {
+bool TestOberfläche::NamenEingeben(const std::string& titel, const std::string& knopf, std::string& text, int32_t start,
+                                   int32_t länge) {
+    namenFragen.push_back({titel, knopf, text, start, länge});
     std::string antwort;
     if (!Nimm(namen, antwort, "Namen eingeben") || antwort == "\x01") return false;
     text = antwort;
@@ -77,6 +79,13 @@ bool TestOberfläche::AusführenMitWählen(std::string& programm, const std::fun
         return true;
     }
     return false;
+}
+
+int16_t TestOberfläche::VerschiebenDateiExistiert(const std::string& text) {
+    existiertFragen.push_back(text);
+    int16_t antwort = 3;
+    Nimm(existiertAntworten, antwort, "Datei existiert");
+    return antwort;
 }
 
 std::optional<RegistrierungsWert> TestRegistrierung::WertLesen(const std::string& name) {

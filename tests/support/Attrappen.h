@@ -31,8 +31,16 @@ public:
     // da, endet die Frage von selbst mit Weiter, ohne eine Antwort aus dem Skript zu nehmen.
     std::function<void()> währendNichtVerfügbar;
     std::deque<std::string> namen;  // Antworten auf NamenEingeben ("" am Anfang = Abbrechen mit "\x01")
+    // Jede Frage nach einem Namen, wie sie gestellt wurde.
+    struct NamenFrage {
+        std::string titel, knopf, text;
+        int32_t auswahlStart, auswahlLänge;
+    };
+    std::vector<NamenFrage> namenFragen;
     std::deque<std::string> ordner;
     std::deque<std::vector<std::string>> dateiListen;
+    std::deque<int16_t> existiertAntworten;  // frmVerschiebenDateiExistiert: 1, 2 oder 3
+    std::vector<std::string> existiertFragen;
 
     std::vector<AufgezeichneteMeldung> meldungen;
     std::vector<std::string> titelTexte;
@@ -47,13 +55,15 @@ public:
     void FortschrittDarstellen(const FortschrittAnsicht& a) override { fortschritte.push_back(a); }
     NichtVerfügbarAntwort DateiNichtVerfügbar(const std::string& pfad, const std::string& text,
                                               const std::function<bool()>& dateiDa) override;
-    bool NamenEingeben(const std::string&, const std::string&, std::string& text, int32_t, int32_t) override;
+    bool NamenEingeben(const std::string& titel, const std::string& knopf, std::string& text, int32_t start,
+                       int32_t länge) override;
     bool OrdnerWählen(const std::string&, std::string& ordner) override;
     bool DateienWählen(const std::string&, const std::string&, std::vector<std::string>& dateien) override;
     std::vector<std::string> bilder;               // jedes gezeigte Bild
     std::deque<std::string> ausführenMitEingaben;  // Eingaben in "Ausführen mit"; leer = Abbrechen
     void BildAnzeigen(const std::string& pfad) override { bilder.push_back(pfad); }
     bool AusführenMitWählen(std::string& programm, const std::function<bool(const std::string&)>& prüfen) override;
+    int16_t VerschiebenDateiExistiert(const std::string& text) override;
 };
 
 class TestRegistrierung final : public Registrierung {

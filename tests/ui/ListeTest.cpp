@@ -202,10 +202,9 @@ void ListeTest::KontextmenueUndAuswahlhelfer() {
     QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, ZeilenMitte(liste, 1));
     aktion("mnu_song_zwischenablage")->trigger();
     QCOMPARE(w.shell.zwischenablage, std::vector<std::string>{ordner / "03 Tag ein.mp3"});
-    // Nicht gebaute Befehle sagen es, auch aus dem Kontextmenü.
+    // Umbenennen aus dem Kontextmenü öffnet den Dialog über der Auswahl.
     aktion("mnu_kontext_umbenennen")->trigger();
-    QCOMPARE(w.meldungen.back().text, std::string("Diese Funktion ist noch nicht eingebaut."));
-    QCOMPARE(w.meldungen.back().schalter, Meldung::Information);
+    QCOMPARE(w.dialoge.back(), QStringLiteral("frmUmbenennen"));
 }
 
 // Ein Ordner mit MP3-Dateien (ID3v1, Byte für Byte gebaut), ein Bild, ein Unterordner.

@@ -14,7 +14,8 @@ frmAusführenMit::frmAusführenMit(QWidget* besitzer, GuiOberfläche& ui, const 
     : QDialog(besitzer), ui_(ui), prüfen_(std::move(prüfen)) {
     setObjectName(QStringLiteral("frmAusführenMit"));
     setWindowTitle(QStringLiteral("Ausführen mit"));
-    auto* hinweis = new QLabel(QStringLiteral("Mit welchem Programm sollen die gewählten Dateien geöffnet werden?"), this);
+    auto* hinweis =
+        new QLabel(QStringLiteral("Mit welchem Programm sollen die gewählten Dateien geöffnet werden?"), this);
     hinweis->setWordWrap(true);
     txtSuche_ = Benannt(new QLineEdit(Q(programm), this), "txtSuche");
     txtSuche_->setMinimumWidth(360);
