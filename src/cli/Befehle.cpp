@@ -15,6 +15,10 @@ extern const Befehl BefehlAdd, BefehlImport, BefehlScan, BefehlTypes;
 extern const Befehl BefehlSearch, BefehlSort, BefehlComplete;
 // Berichte
 extern const Befehl BefehlExport, BefehlStats, BefehlDupes;
+// Spieler
+extern const Befehl BefehlPlay, BefehlPlayer, BefehlMonitor;
+// Dateien
+extern const Befehl BefehlRename;
 // Dateioperationen
 extern const Befehl BefehlMove, BefehlCopy, BefehlPropose, BefehlDelete, BefehlSync;
 
@@ -45,6 +49,12 @@ const std::vector<Befehl>& AlleBefehle() {
         BefehlExport,
         BefehlStats,
         BefehlDupes,
+        // Spieler
+        BefehlPlay,
+        BefehlPlayer,
+        BefehlMonitor,
+        // Dateien
+        BefehlRename,
         // Dateioperationen
         BefehlMove,
         BefehlCopy,

@@ -1,10 +1,11 @@
-// Dateien auf dem Datenträger: kopieren/verschieben, löschen, Index synchronisieren.
+// Dateien auf dem Datenträger: kopieren/verschieben, umbenennen, löschen, Index synchronisieren.
 #include "app/Kartei.h"
 #include "intake/Synchronisieren.h"
 #include "search/Suche.h"
 #include "ui/GuiOberflaeche.h"
 #include "ui/dialoge/frmKopieren.h"
 #include "ui/dialoge/frmLoeschen.h"
+#include "ui/dialoge/frmUmbenennen.h"
 #include "ui/frmMain.h"
 
 std::vector<int32_t> frmMain::GewählteEinträge() {
@@ -19,6 +20,13 @@ void frmMain::cmdDateienKopierenVerschieben_Click() {
     std::vector<int32_t> einträge = GewählteEinträge();
     if (einträge.empty()) return;
     frmKopieren dialog(this, k_, ui_, std::move(einträge));
+    if (ui_.DialogAusführen(dialog) == QDialog::Accepted) SucheNachlauf();
+}
+
+void frmMain::cmdUmbenennen_Click() {
+    std::vector<int32_t> einträge = GewählteEinträge();
+    if (einträge.empty()) return;
+    frmUmbenennen dialog(this, k_, std::move(einträge));
     if (ui_.DialogAusführen(dialog) == QDialog::Accepted) SucheNachlauf();
 }
 
