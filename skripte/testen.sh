@@ -9,3 +9,5 @@ export QT_QPA_PLATFORM=offscreen
 export ASAN_OPTIONS=detect_leaks=0
 ctest --preset test -j2
 bash skripte/paketpruefung.sh build/test
+# Jeder Parser kurz unter libFuzzer; die langen Läufe macht skripte/fuzz-lang.sh.
+bash skripte/fuzzen.sh --sekunden 5

@@ -60,3 +60,9 @@ void PfadTextAnhängen(std::string& ziel, std::string_view pfad) {
     if (IstGültigesUtf8(pfad)) ziel.append(pfad);
     else ziel.append(Windows1252ZuUtf8(pfad));
 }
+
+std::string PfadText(std::string_view pfad) {
+    std::string t;
+    PfadTextAnhängen(t, pfad);
+    return t;
+}

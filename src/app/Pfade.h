@@ -16,6 +16,8 @@ std::string_view DateiEndungSicht(std::string_view pfad);
 // Pfade sind Bytes des Dateisystems. Als Text (Anzeige, Suche, Sortieren, Muster) gelten sie als
 // UTF-8, was keines ist als Windows-1252; hängt diesen Text an ziel an.
 void PfadTextAnhängen(std::string& ziel, std::string_view pfad);
+// Dasselbe als neuer Text, für Meldungen.
+std::string PfadText(std::string_view pfad);
 // Ein voller Pfad beginnt mit "/".
 bool IstVollerPfad(std::string_view pfad);
 

@@ -17,6 +17,11 @@ extern const Befehl BefehlSearch, BefehlSort, BefehlComplete;
 extern const Befehl BefehlExport, BefehlStats, BefehlDupes;
 // Spieler
 extern const Befehl BefehlAutodj;
+extern const Befehl BefehlPlay, BefehlPlayer, BefehlMonitor;
+// Dateien
+extern const Befehl BefehlRename;
+// Dateioperationen
+extern const Befehl BefehlMove, BefehlCopy, BefehlPropose, BefehlDelete, BefehlSync;
 
 const std::vector<Befehl>& AlleBefehle() {
     static const std::vector<Befehl> befehle = {
@@ -47,6 +52,17 @@ const std::vector<Befehl>& AlleBefehle() {
         BefehlDupes,
         // Spieler
         BefehlAutodj,
+        BefehlPlay,
+        BefehlPlayer,
+        BefehlMonitor,
+        // Dateien
+        BefehlRename,
+        // Dateioperationen
+        BefehlMove,
+        BefehlCopy,
+        BefehlPropose,
+        BefehlDelete,
+        BefehlSync,
     };
     return befehle;
 }

@@ -31,6 +31,8 @@ std::string DateinamenFormatieren(const Kartei& k, std::string_view format, int3
             KK_TRACE("DateinamenFormatieren", "Fehler beim Auslesen des Feldes '" + name + "'");
             return text;
         }
+        // Ein Wert mit seinem eigenen Platzhalter wüchse mit jeder Runde und jeder Schachtelung.
+        if (wert.find("%" + name + "%") != std::string::npos) return text;
         std::string neu = Ersetzen(text, "%" + name + "%", wert);
         if (neu == text || neu.size() > kMaxLänge) return neu;
         text = std::move(neu);

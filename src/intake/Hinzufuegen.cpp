@@ -8,6 +8,8 @@
 #include "intake/DateiFormat.h"
 #include "intake/PlayListe.h"
 #include "intake/Scanner.h"
+#include "intake/ZielordnerVerschieben.h"
+#include "fileops/Loeschen.h"
 #include "search/Suche.h"
 #include "shell/Fortschritt.h"
 
@@ -26,17 +28,21 @@ void OrdnerFehltMelden(Kartei& k, const std::string& ordner) {
 }
 
 // Die gefundenen Dateien eines Ordners aufnehmen (Suchliste schon gefüllt). false: abgebrochen.
-bool GefundeneHinzufügen(Kartei& k, bool listeAktualisieren, bool neueMarkieren, int32_t& hinzugefügt) {
+// Mit einem Zielordner wird jede Datei vorher dorthin verschoben; ein Abbruch dabei beendet nur die Schleife.
+bool GefundeneHinzufügen(Kartei& k, const std::string& ordner, const std::string& zielordner, bool listeAktualisieren,
+                         bool neueMarkieren, int32_t& hinzugefügt) {
     auto& a = k.Aufnahme;
     FortschrittZeigenStarten(k, a.SuchlisteAnzahl, true, true, true, "Füge gefundene Dateien hinzu");
     DateiListeHinzuStarten(k);
     for (int32_t i = 1; i <= a.SuchlisteAnzahl; ++i) {
-        const std::string& datei = a.Suchliste[i];
+        const std::string datei = a.Suchliste[i];
         // Fremde Typen zeigen keinen Fortschrittsschritt.
         if (!DateiFormatUnterstützt(k, datei, false, false, false, true)) continue;
-        const bool aufgenommen = DateienZurListeHinzufügen(k, datei);
+        if (!zielordner.empty() && !InZielordnerVerschieben(k, ordner, zielordner, i)) break;
+        const std::string& pfad = a.Suchliste[i];  // nach dem Verschieben der neue Platz
+        const bool aufgenommen = DateienZurListeHinzufügen(k, pfad);
         if (aufgenommen) ++hinzugefügt;
-        if (!FortschrittZeigen(k, i, aufgenommen ? datei : std::string())) {
+        if (!FortschrittZeigen(k, i, aufgenommen ? pfad : std::string())) {
             DateiListeHinzuBeenden(k);
             NachHinzufügenAktualisieren(k, listeAktualisieren, neueMarkieren, hinzugefügt);
             k.ui.TitelNachrichtZeigen(kAbgebrochen, 0);
@@ -81,7 +87,6 @@ bool EinfachDateiHinzufügen(Kartei& k, const EinsBasiert<std::string>& dateien,
 bool EinfachOrdnerHinzufügen(Kartei& k, const std::string& ordner, bool meldung, int16_t unterordner,
                              bool listeAktualisieren, const std::string& kopierenInOrdner, bool neueMarkieren,
                              bool fortschrittOffenLassen) {
-    (void)kopierenInOrdner;  // das Verschieben in den Zielordner kommt mit den Dateioperationen
     FortschrittZeigenStarten(k, 0, true, false, false, "Durchsuche Ordner");
     if (!FortschrittZeigen(k, "")) return false;
     SuchlisteHinzufügen(k, "", 1);
@@ -105,8 +110,10 @@ bool EinfachOrdnerHinzufügen(Kartei& k, const std::string& ordner, bool meldung
 
     int32_t hinzugefügt = 0;
     if (k.Aufnahme.SuchlisteAnzahl == 0) KK_TRACE("EinfachOrdnerHinzufügen", "Keine Dateien im Ordner gefunden");
-    else if (!GefundeneHinzufügen(k, listeAktualisieren, neueMarkieren, hinzugefügt)) return false;
+    else if (!GefundeneHinzufügen(k, ordner, kopierenInOrdner, listeAktualisieren, neueMarkieren, hinzugefügt))
+        return false;
     DateiListeHinzuBeenden(k);
+    if (!kopierenInOrdner.empty()) OrdnerLöschenFragen(k, ordner);
     if (!fortschrittOffenLassen) FortschrittZeigenEnde(k);
     NachHinzufügenAktualisieren(k, listeAktualisieren, neueMarkieren, hinzugefügt);
     if (meldung) k.ui.TitelNachrichtZeigen(HinzugefügtText(hinzugefügt), 750);

@@ -26,8 +26,9 @@ bool EinfachDateiHinzufügen(Kartei& k, const EinsBasiert<std::string>& dateien,
                             bool neueMarkieren);
 
 // Durchsucht ordner (mit Unterordnern nur bei unterordner == 1) und fügt die Dateien
-// freigegebener Typen hinzu. Ein fehlender Ordner meldet sich und gibt true. kopierenInOrdner
-// ist noch ohne Wirkung: die Dateien werden an ihrem Platz aufgenommen.
+// freigegebener Typen hinzu. Ein fehlender Ordner meldet sich und gibt true. Mit kopierenInOrdner
+// wird jede Datei vorher dorthin verschoben (der Baum darunter bleibt) und am neuen Platz
+// aufgenommen; danach wird der leer gewordene Ordner angeboten.
 bool EinfachOrdnerHinzufügen(Kartei& k, const std::string& ordner, bool meldung, int16_t unterordner,
                              bool listeAktualisieren, const std::string& kopierenInOrdner, bool neueMarkieren,
                              bool fortschrittOffenLassen);

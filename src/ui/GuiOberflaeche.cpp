@@ -2,13 +2,16 @@
 
 #include "app/Kartei.h"
 #include "ui/Umrechnung.h"
+#include "ui/dialoge/frmAusfuehrenMit.h"
+#include "ui/dialoge/frmBildAnzeige.h"
 #include "ui/dialoge/frmDateiNichtVerfuegbar.h"
+#include "ui/dialoge/frmDateiname.h"
+#include "ui/dialoge/frmVerschiebenDateiExistiert.h"
 #include "ui/dialoge/frmFortschritt.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QFileDialog>
-#include <QInputDialog>
 #include <QMessageBox>
 
 namespace {
@@ -138,11 +141,18 @@ NichtVerfügbarAntwort GuiOberfläche::DateiNichtVerfügbar(const std::string&, 
     return dialog.DateiNichtVerfügbarAuswahl;
 }
 
-bool GuiOberfläche::NamenEingeben(const std::string& titel, const std::string&, std::string& text, int32_t, int32_t) {
-    bool ok = false;
-    QString neu = QInputDialog::getText(SichtbarerBesitzer(), Q(titel), QString(), QLineEdit::Normal, Q(text), &ok);
-    if (ok) text = S(neu);
-    return ok;
+int16_t GuiOberfläche::VerschiebenDateiExistiert(const std::string& text) {
+    frmVerschiebenDateiExistiert dialog(SichtbarerBesitzer(), text);
+    DialogAusführen(dialog);
+    return dialog.DateiExistiertAuswahl;
+}
+
+bool GuiOberfläche::NamenEingeben(const std::string& titel, const std::string& knopf, std::string& text,
+                                  int32_t auswahlStart, int32_t auswahlLänge) {
+    frmDateiname dialog(SichtbarerBesitzer(), titel, knopf, text, auswahlStart, auswahlLänge);
+    if (DialogAusführen(dialog) != QDialog::Accepted) return false;
+    text = dialog.Text();
+    return true;
 }
 
 bool GuiOberfläche::OrdnerWählen(const std::string& titel, std::string& ordner) {
@@ -193,4 +203,18 @@ int GuiOberfläche::DialogAusführen(QDialog& dialog) {
     dialogSkript(dialog);
     if (dialog.isVisible()) dialog.reject();
     return dialog.result();
+}
+
+void GuiOberfläche::BildAnzeigen(const std::string& pfad) {
+    if (!bildAnzeige_) bildAnzeige_ = new frmBildAnzeige(Besitzer());
+    // Ein Bild, das sich nicht laden lässt, zeigt nichts und meldet nichts.
+    if (!bildAnzeige_->BildLaden(pfad)) return;
+    if (!bildAnzeige_->isVisible()) bildAnzeige_->show();
+}
+
+bool GuiOberfläche::AusführenMitWählen(std::string& programm, const std::function<bool(const std::string&)>& prüfen) {
+    frmAusführenMit dialog(SichtbarerBesitzer(), *this, programm, prüfen);
+    if (DialogAusführen(dialog) != QDialog::Accepted) return false;
+    programm = dialog.Programm();
+    return true;
 }

@@ -33,6 +33,7 @@ class QStringListModel;
 class QSystemTrayIcon;
 class QTimer;
 class SongListeAnsicht;
+class SpielerTafel;
 
 class frmMain final : public QMainWindow {
 public:
@@ -112,6 +113,13 @@ private:
     void DateienFallengelassen(const QStringList& pfade);
     void cmdDateiEntfernen_Click();
 
+    // Dateien (frmMainDateien.cpp)
+    std::vector<int32_t> GewählteEinträge();  // die Auswahl, frisch aus der Liste gelesen
+    void cmdDateienKopierenVerschieben_Click();
+    void cmdUmbenennen_Click();
+    void cmdDateienLöschen_Click();
+    void cmdListeAufräumen_Click();
+
     // Suche (frmMainSuche.cpp)
     // Die Auswahl, wie AuswahlAktualisieren sie aus der Liste liest.
     const EinsBasiert<int32_t>& AusgewählteDateien() const;
@@ -130,6 +138,15 @@ private:
     void SucheStarten(int feld, const std::string& text);
     // Suche wie nach dem Start: erstes Feld, leerer Text, Vorschläge des Index; sucht nicht.
     void SucheVorbereiten();
+
+    // Spieler (frmMainSpieler.cpp)
+    void SpielerAufbauen();
+    EinsBasiert<int32_t> Gewählte() const;  // die gewählten Einträge, genau so viele
+    void Abspielen(bool Hinzufügen, bool Ausführen);
+    void cmdEintragAbspielen_Click();
+    void cmdAnhängen_Click();
+    void cmdEintragAusführen_Click();
+    void cmdEintragAusführenMit_Click();
 
     // Schließen (frmMainSchliessen.cpp)
     FensterLage Lage() const;
@@ -150,6 +167,7 @@ private:
     std::string standardIndex_;
 
     LinkeSpalte* links_ = nullptr;
+    SpielerTafel* fraLinks3_ = nullptr;
     QLabel* lblProgramm_ = nullptr;
     LinkLabel* lblIndexdatei_ = nullptr;
     KlickLabel* lblIndexdateiUntertitel1_ = nullptr;
@@ -172,7 +190,7 @@ private:
     QTimer* tmrListe_ = nullptr;         // 600 ms, einmalig, startet nicht neu
     QTimer* tmrTimer1_ = nullptr;        // Titel tippen und halten
     QTimer* tmrTimer2_ = nullptr;        // Wartezeit vor dem Titel
-    QTimer* tmrScrollUpdate_ = nullptr;  // 500 ms: regelmäßiges Speichern
+    QTimer* tmrScrollUpdate_ = nullptr;  // 500 ms: Spieler, Erkennung, regelmäßiges Speichern
     QTimer* auswahlTimer_ = nullptr;     // fasst viele Auswahländerungen zu einer Anzeige zusammen
     TitelAnimation titel_;
     bool gesperrt_ = false;

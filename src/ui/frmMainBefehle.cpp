@@ -43,22 +43,22 @@ void frmMain::BefehleAnlegen() {
         void (frmMain::*aktion)();
     } tabelle[] = {
         {&B::cmdIndexErstellen, "cmdIndexErstellen", "Zum Index hinzufügen", &frmMain::cmdIndexErstellen_Click},
-        {&B::cmdListeAufräumen, "cmdListeAufräumen", "Index synchronisieren", &frmMain::NichtEingebaut},
+        {&B::cmdListeAufräumen, "cmdListeAufräumen", "Index synchronisieren", &frmMain::cmdListeAufräumen_Click},
         {&B::cmdIndexVerwaltung, "cmdIndexVerwaltung", "Index-Verwaltung", &frmMain::cmdIndexVerwaltung_Click},
         {&B::cmdIndexStatistik, "cmdIndexStatistik", "Index-Statistiken", &frmMain::cmdIndexStatistik_Click},
         {&B::cmdAutoDJ, "cmdAutoDJ", "AutoDJ", &frmMain::cmdAutoDJ_Click},
         {&B::cmdAuswählen, "cmdAuswählen", "Auswählen", &frmMain::cmdAuswählen_Click},
-        {&B::cmdEintragAbspielen, "cmdEintragAbspielen", "Abspielen", &frmMain::NichtEingebaut},
-        {&B::cmdAnhängen, "cmdAnhängen", "In Playlist", &frmMain::NichtEingebaut},
-        {&B::cmdEintragAusführen, "cmdEintragAusführen", "Ausführen", &frmMain::NichtEingebaut},
-        {&B::cmdEintragAusführenMit, "cmdEintragAusführenMit", "Ausführen mit", &frmMain::NichtEingebaut},
+        {&B::cmdEintragAbspielen, "cmdEintragAbspielen", "Abspielen", &frmMain::cmdEintragAbspielen_Click},
+        {&B::cmdAnhängen, "cmdAnhängen", "In Playlist", &frmMain::cmdAnhängen_Click},
+        {&B::cmdEintragAusführen, "cmdEintragAusführen", "Ausführen", &frmMain::cmdEintragAusführen_Click},
+        {&B::cmdEintragAusführenMit, "cmdEintragAusführenMit", "Ausführen mit", &frmMain::cmdEintragAusführenMit_Click},
         {&B::cmdMp3TagAnzeigen, "cmdMp3TagAnzeigen", "Datei-Infos", &frmMain::NichtEingebaut},
         {&B::cmdExportieren, "cmdExportieren", "Export", &frmMain::cmdExportieren_Click},
         {&B::cmdDateiEntfernen, "cmdDateiEntfernen", "Aus Index entfernen", &frmMain::cmdDateiEntfernen_Click},
-        {&B::cmdDateienLöschen, "cmdDateienLöschen", "Löschen", &frmMain::NichtEingebaut},
+        {&B::cmdDateienLöschen, "cmdDateienLöschen", "Löschen", &frmMain::cmdDateienLöschen_Click},
         {&B::cmdDateienKopierenVerschieben, "cmdDateienKopierenVerschieben", "Kopieren/verschieben",
-         &frmMain::NichtEingebaut},
-        {&B::cmdUmbenennen, "cmdUmbenennen", "Umbenennen", &frmMain::NichtEingebaut},
+         &frmMain::cmdDateienKopierenVerschieben_Click},
+        {&B::cmdUmbenennen, "cmdUmbenennen", "Umbenennen", &frmMain::cmdUmbenennen_Click},
         {&B::cmdOptionen, "cmdOptionen", "Optionen", &frmMain::NichtEingebaut},
         {&B::cmdHilfe, "cmdHilfe", "Hilfe", &frmMain::cmdHilfe_Click},
         {&B::cmdInfo, "cmdInfo", "Infos", &frmMain::cmdInfo_Click},
@@ -250,10 +250,4 @@ void frmMain::mnu_song_zwischenablage_Click() {
     AuswahlAktualisieren();
     const std::string pfad = ZwischenablagePfad(k_, AusgewählteDateien(), AusgewähltAnzahl());
     if (!pfad.empty()) k_.shell.InZwischenablage(pfad);
-}
-
-void frmMain::lstSongs_DblClick() {
-    AuswahlAktualisierenUndZeigen();
-    if (AusgewähltAnzahl() < 1) return;
-    NichtEingebaut();  // Abspielen nach BeiDoppelklick kommt mit dem Spieler
 }

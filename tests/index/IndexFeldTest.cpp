@@ -213,4 +213,10 @@ TEST(IndexFeld, DateinamenFormatieren) {
     EXPECT_LE(DateinamenFormatieren(u.k, "%Titel%", 1).size(), 200000u);
     u.k.Optionen.SpaltenNutzerformat = "<%Benutzerdefiniert%>";
     EXPECT_FALSE(Lesen(u.k, 1, "Benutzerdefiniert").wert.empty());
+    // Ein Muster, das sich selbst einsetzt und dabei wächst, endet sofort, statt sich über alle
+    // Schachtelungen und Runden zu vervielfachen (das hielt die Liste sekundenlang auf).
+    u.k.Optionen.SpaltenNutzerformat = "%Benutzerdefiniert%%Titel%";
+    EXPECT_EQ(Lesen(u.k, 1, "Benutzerdefiniert").wert, "%Benutzerdefiniert%%Titel%");
+    u.k.DateiDaten[1].Mp3_ID3v1_Titel = "x%Titel%";
+    EXPECT_EQ(DateinamenFormatieren(u.k, "[%Titel%]", 1), "[%Titel%]");
 }

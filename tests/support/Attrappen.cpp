@@ -46,7 +46,9 @@ template <typename T> bool Nimm(std::deque<T>& quelle, T& ziel, const char* frag
 }
 }  // namespace
 
-bool TestOberfläche::NamenEingeben(const std::string&, const std::string&, std::string& text, int32_t, int32_t) {
+bool TestOberfläche::NamenEingeben(const std::string& titel, const std::string& knopf, std::string& text, int32_t start,
+                                   int32_t länge) {
+    namenFragen.push_back({titel, knopf, text, start, länge});
     std::string antwort;
     if (!Nimm(namen, antwort, "Namen eingeben") || antwort == "\x01") return false;
     text = antwort;
@@ -65,6 +67,25 @@ bool TestOberfläche::DateienWählen(const std::string&, const std::string&, std
     if (!Nimm(dateiListen, antwort, "Dateien wählen") || antwort.empty()) return false;
     dateien = antwort;
     return true;
+}
+
+// Jede Eingabe geht durch die Prüfung, wie ein Druck auf OK; die erste gültige gilt.
+bool TestOberfläche::AusführenMitWählen(std::string& programm, const std::function<bool(const std::string&)>& prüfen) {
+    while (!ausführenMitEingaben.empty()) {
+        std::string eingabe = ausführenMitEingaben.front();
+        ausführenMitEingaben.pop_front();
+        if (!prüfen(eingabe)) continue;
+        programm = eingabe;
+        return true;
+    }
+    return false;
+}
+
+int16_t TestOberfläche::VerschiebenDateiExistiert(const std::string& text) {
+    existiertFragen.push_back(text);
+    int16_t antwort = 3;
+    Nimm(existiertAntworten, antwort, "Datei existiert");
+    return antwort;
 }
 
 std::optional<RegistrierungsWert> TestRegistrierung::WertLesen(const std::string& name) {
@@ -90,6 +111,7 @@ bool TestRegistrierung::ZahlSetzen(const std::string& name, int32_t wert) {
 
 int32_t TestSpieler::NachrichtSenden(int64_t, uint32_t n, int32_t w, int32_t l) {
     gesendet.push_back({n, w, l});
+    if (beantworten) return beantworten(n, w, l);
     auto it = antworten.find(n);
     return it == antworten.end() ? 0 : it->second;
 }
@@ -101,6 +123,7 @@ bool TestShell::Öffnen(const std::string& ziel) {
 
 int64_t TestShell::ProgrammStarten(const std::string& p, const std::vector<std::string>& a, bool) {
     gestartet.push_back({p, a});
+    if (beiStart) beiStart(gestartet.back());
     return gelingt ? 4711 : 0;
 }
 

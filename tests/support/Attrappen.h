@@ -31,8 +31,16 @@ public:
     // da, endet die Frage von selbst mit Weiter, ohne eine Antwort aus dem Skript zu nehmen.
     std::function<void()> währendNichtVerfügbar;
     std::deque<std::string> namen;  // Antworten auf NamenEingeben ("" am Anfang = Abbrechen mit "\x01")
+    // Jede Frage nach einem Namen, wie sie gestellt wurde.
+    struct NamenFrage {
+        std::string titel, knopf, text;
+        int32_t auswahlStart, auswahlLänge;
+    };
+    std::vector<NamenFrage> namenFragen;
     std::deque<std::string> ordner;
     std::deque<std::vector<std::string>> dateiListen;
+    std::deque<int16_t> existiertAntworten;  // frmVerschiebenDateiExistiert: 1, 2 oder 3
+    std::vector<std::string> existiertFragen;
 
     std::vector<AufgezeichneteMeldung> meldungen;
     std::vector<std::string> titelTexte;
@@ -47,9 +55,15 @@ public:
     void FortschrittDarstellen(const FortschrittAnsicht& a) override { fortschritte.push_back(a); }
     NichtVerfügbarAntwort DateiNichtVerfügbar(const std::string& pfad, const std::string& text,
                                               const std::function<bool()>& dateiDa) override;
-    bool NamenEingeben(const std::string&, const std::string&, std::string& text, int32_t, int32_t) override;
+    bool NamenEingeben(const std::string& titel, const std::string& knopf, std::string& text, int32_t start,
+                       int32_t länge) override;
     bool OrdnerWählen(const std::string&, std::string& ordner) override;
     bool DateienWählen(const std::string&, const std::string&, std::vector<std::string>& dateien) override;
+    std::vector<std::string> bilder;               // jedes gezeigte Bild
+    std::deque<std::string> ausführenMitEingaben;  // Eingaben in "Ausführen mit"; leer = Abbrechen
+    void BildAnzeigen(const std::string& pfad) override { bilder.push_back(pfad); }
+    bool AusführenMitWählen(std::string& programm, const std::function<bool(const std::string&)>& prüfen) override;
+    int16_t VerschiebenDateiExistiert(const std::string& text) override;
 };
 
 class TestRegistrierung final : public Registrierung {
@@ -75,6 +89,8 @@ public:
     int64_t fenster = 0;  // 0: kein Spieler
     std::string titel;
     std::map<uint32_t, int32_t> antworten;  // Nachricht → Ergebnis
+    // Wenn gesetzt, antwortet sie statt der Tabelle (Nachricht, wParam, lParam → Ergebnis).
+    std::function<int32_t(uint32_t, int32_t, int32_t)> beantworten;
     struct Nachricht {
         uint32_t nachricht;
         int32_t wParam, lParam;
@@ -94,6 +110,7 @@ public:
     };
     std::vector<Start> gestartet;
     bool gelingt = true;
+    std::function<void(const Start&)> beiStart;  // läuft bei jedem ProgrammStarten
     bool Öffnen(const std::string& ziel) override;
     int64_t ProgrammStarten(const std::string& p, const std::vector<std::string>& a, bool) override;
     bool InPapierkorb(const std::string& pfad, std::string& fehler) override;
