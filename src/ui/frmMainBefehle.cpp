@@ -10,6 +10,7 @@
 #include "ui/Umrechnung.h"
 #include "ui/dialoge/BerichteZeigen.h"
 #include "ui/dialoge/frmMp3Tag.h"
+#include "ui/dialoge/frmAutoDJ.h"
 #include "ui/frmMain.h"
 
 #include <QAction>
@@ -46,12 +47,12 @@ void frmMain::BefehleAnlegen() {
         {&B::cmdListeAufräumen, "cmdListeAufräumen", "Index synchronisieren", &frmMain::cmdListeAufräumen_Click},
         {&B::cmdIndexVerwaltung, "cmdIndexVerwaltung", "Index-Verwaltung", &frmMain::cmdIndexVerwaltung_Click},
         {&B::cmdIndexStatistik, "cmdIndexStatistik", "Index-Statistiken", &frmMain::cmdIndexStatistik_Click},
-        {&B::cmdAutoDJ, "cmdAutoDJ", "AutoDJ", &frmMain::NichtEingebaut},
+        {&B::cmdAutoDJ, "cmdAutoDJ", "AutoDJ", &frmMain::cmdAutoDJ_Click},
         {&B::cmdAuswählen, "cmdAuswählen", "Auswählen", &frmMain::cmdAuswählen_Click},
-        {&B::cmdEintragAbspielen, "cmdEintragAbspielen", "Abspielen", &frmMain::NichtEingebaut},
-        {&B::cmdAnhängen, "cmdAnhängen", "In Playlist", &frmMain::NichtEingebaut},
-        {&B::cmdEintragAusführen, "cmdEintragAusführen", "Ausführen", &frmMain::NichtEingebaut},
-        {&B::cmdEintragAusführenMit, "cmdEintragAusführenMit", "Ausführen mit", &frmMain::NichtEingebaut},
+        {&B::cmdEintragAbspielen, "cmdEintragAbspielen", "Abspielen", &frmMain::cmdEintragAbspielen_Click},
+        {&B::cmdAnhängen, "cmdAnhängen", "In Playlist", &frmMain::cmdAnhängen_Click},
+        {&B::cmdEintragAusführen, "cmdEintragAusführen", "Ausführen", &frmMain::cmdEintragAusführen_Click},
+        {&B::cmdEintragAusführenMit, "cmdEintragAusführenMit", "Ausführen mit", &frmMain::cmdEintragAusführenMit_Click},
         {&B::cmdMp3TagAnzeigen, "cmdMp3TagAnzeigen", "Datei-Infos", &frmMain::cmdMp3TagAnzeigen_Click},
         {&B::cmdExportieren, "cmdExportieren", "Export", &frmMain::cmdExportieren_Click},
         {&B::cmdDateiEntfernen, "cmdDateiEntfernen", "Aus Index entfernen", &frmMain::cmdDateiEntfernen_Click},
@@ -206,6 +207,14 @@ void frmMain::cmdMp3TagAnzeigen_Click() {
     SucheNachlauf();
 }
 
+void frmMain::cmdAutoDJ_Click() {
+    // Abspielen und Tag-Dialog fehlen noch; bis dahin sagen die Knöpfe es.
+    AutoDJBefehle befehle{[this](const std::vector<int32_t>&, bool) { NichtEingebaut(); },
+                          [this](const std::vector<int32_t>&) { NichtEingebaut(); }};
+    frmAutoDJ dialog(this, k_, std::move(befehle));
+    ui_.DialogAusführen(dialog);
+}
+
 void frmMain::cmdAuswählen_Click() {
     MenüZustandSetzen(false);
     LinkLabel* knopf = links_->Verweis(befehle_.cmdAuswählen);
@@ -251,11 +260,4 @@ void frmMain::mnu_song_zwischenablage_Click() {
     AuswahlAktualisieren();
     const std::string pfad = ZwischenablagePfad(k_, AusgewählteDateien(), AusgewähltAnzahl());
     if (!pfad.empty()) k_.shell.InZwischenablage(pfad);
-}
-
-void frmMain::lstSongs_DblClick() {
-    AuswahlAktualisierenUndZeigen();
-    if (AusgewähltAnzahl() < 1) return;
-    if (k_.E.BeiDoppelklick == 3) befehle_.cmdMp3TagAnzeigen->trigger();
-    NichtEingebaut();  // Abspielen nach BeiDoppelklick kommt mit dem Spieler
 }
