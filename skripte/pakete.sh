@@ -3,7 +3,8 @@
 set -euo pipefail
 PAKETE=(build-essential cmake ninja-build ccache pkg-config git
         qt6-base-dev qt6-translations-l10n libgl-dev libutf8proc-dev libgtest-dev libgmock-dev libbenchmark-dev
-        xvfb xauth dbus clang-format python3-mutagen clang-14 libclang-rt-14-dev)
+        xvfb xauth dbus clang-format python3-mutagen clang-14 libclang-rt-14-dev
+        audacious audacious-plugins)
 fehlend=()
 for p in "${PAKETE[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || fehlend+=("$p")

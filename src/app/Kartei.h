@@ -21,6 +21,8 @@
 inline constexpr const char* ProgrammTitel = "KlangKartei";
 // Der Name des Produkts, wie er in Exporten und im Software-Feld der Tags steht.
 inline constexpr const char* ProduktName = "Klangkartei";
+// Die Web-Adresse des Programms (Link der HTML-Überschrift, Link-Feld der Tags).
+inline constexpr const char* ProgrammWebAdresse = "https://klangkartei.example.org/";
 // "KlangKartei 1.0"
 std::string ProgrammTitelMitVersion();
 

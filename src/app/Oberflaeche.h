@@ -60,6 +60,11 @@ public:
     // Dateien wählen (Filter "Name|*.mp3;*.ogg|..."); false = Abbrechen.
     virtual bool DateienWählen(const std::string& titel, const std::string& filter,
                                std::vector<std::string>& dateien) = 0;
+    // Ein Bild zeigen, ohne zu warten (frmBildAnzeige); ein neues ersetzt das alte.
+    virtual void BildAnzeigen(const std::string& pfad) = 0;
+    // Das Programm für "Ausführen mit" wählen (frmAusführenMit), vorbelegt mit programm. prüfen
+    // läuft bei OK; solange es false gibt, bleibt die Frage offen. false = Abbrechen.
+    virtual bool AusführenMitWählen(std::string& programm, const std::function<bool(const std::string&)>& prüfen) = 0;
     // Das Ziel einer Verschiebung besteht schon (frmVerschiebenDateiExistiert); text ist die fertige
     // Beschreibung. 1 = umbenennen (-0, -1, …), 2 = ersetzen, 3 = abbrechen.
     virtual int16_t VerschiebenDateiExistiert(const std::string& text) = 0;

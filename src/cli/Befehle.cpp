@@ -15,6 +15,9 @@ extern const Befehl BefehlAdd, BefehlImport, BefehlScan, BefehlTypes;
 extern const Befehl BefehlSearch, BefehlSort, BefehlComplete;
 // Berichte
 extern const Befehl BefehlExport, BefehlStats, BefehlDupes;
+// Spieler
+extern const Befehl BefehlAutodj;
+extern const Befehl BefehlPlay, BefehlPlayer, BefehlMonitor;
 // Dateien
 extern const Befehl BefehlRename;
 // Dateioperationen
@@ -47,6 +50,11 @@ const std::vector<Befehl>& AlleBefehle() {
         BefehlExport,
         BefehlStats,
         BefehlDupes,
+        // Spieler
+        BefehlAutodj,
+        BefehlPlay,
+        BefehlPlayer,
+        BefehlMonitor,
         // Dateien
         BefehlRename,
         // Dateioperationen

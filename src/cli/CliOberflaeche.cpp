@@ -62,6 +62,10 @@ bool CliOberfläche::OrdnerWählen(const std::string&, std::string&) { return fa
 
 bool CliOberfläche::DateienWählen(const std::string&, const std::string&, std::vector<std::string>&) { return false; }
 
+void CliOberfläche::BildAnzeigen(const std::string& pfad) {
+    if (bildÖffnen) bildÖffnen(pfad);
+}
+
 int16_t CliOberfläche::VerschiebenDateiExistiert(const std::string& text) {
     std::fprintf(stderr, "%s\n→ %s\n", text.c_str(), ja_ ? "Umbenennen" : "Abbrechen");
     return ja_ ? 1 : 3;

@@ -17,6 +17,11 @@ public:
                        int32_t) override;
     bool OrdnerWählen(const std::string& titel, std::string& ordner) override;
     bool DateienWählen(const std::string& titel, const std::string& filter, std::vector<std::string>& dateien) override;
+    // Die Kommandozeile hat kein Fenster: ein Bild geht an bildÖffnen (etwa das Standardprogramm).
+    void BildAnzeigen(const std::string& pfad) override;
+    std::function<void(const std::string&)> bildÖffnen;
+    // Die Kommandozeile fragt nach keinem Programm: die Frage gilt als abgebrochen.
+    bool AusführenMitWählen(std::string&, const std::function<bool(const std::string&)>&) override { return false; }
     // Ohne --yes abbrechen, mit --yes umbenennen (-0, -1, …): nie ungefragt ersetzen.
     int16_t VerschiebenDateiExistiert(const std::string& text) override;
 

@@ -1,5 +1,7 @@
 #include "media/Genres.h"
 
+#include "app/Texte.h"
+
 #include <array>
 
 namespace {
@@ -161,5 +163,11 @@ const std::string& GenreName(int32_t code) {
 int32_t GenreCode(const std::string& name) {
     for (int32_t i = 0; i < GenreAnzahl(); ++i)
         if (kGenres[static_cast<size_t>(i)] == name) return i;
+    return -1;
+}
+
+int32_t GenreCodeOhneGroßKlein(std::string_view name) {
+    for (int32_t i = 0; i < GenreAnzahl(); ++i)
+        if (TexteGleich(kGenres[static_cast<size_t>(i)], name)) return i;
     return -1;
 }

@@ -5,6 +5,7 @@
 #include "platform/KonfigRegistrierung.h"
 #include "platform/LinuxDatentraeger.h"
 #include "platform/LinuxShell.h"
+#include "platform/MprisSpieler.h"
 #include "platform/SystemDienste.h"
 
 #include <string>
@@ -25,7 +26,7 @@ struct LinuxDienste {
     Dienste Mit(Oberfläche& ui);
 
     KonfigRegistrierung registrierung;
-    KeinSpielerfenster spieler;
+    MprisSpielerfenster spieler;
     LinuxShell shell;
     LinuxDatenträger datenträger;
     SystemUhr uhr;

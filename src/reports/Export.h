@@ -9,9 +9,6 @@
 struct Kartei;
 struct Ergebnisliste;
 
-// Die Adresse hinter dem Link der HTML-Überschrift.
-inline constexpr const char* ProgrammWebAdresse = "https://klangkartei.example.org/";
-
 // Exportart, wie ExportModus sie speichert.
 namespace ExportArt {
 constexpr int16_t Text = 0, Html = 1, Playliste = 2;

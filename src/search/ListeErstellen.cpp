@@ -1,6 +1,7 @@
 #include "search/ListeErstellen.h"
 
 #include "app/Kartei.h"
+#include "app/Trace.h"
 
 #include <algorithm>
 
@@ -91,4 +92,13 @@ void AuswahlAktualisieren(Kartei& k, const Ergebnisliste& Liste) {
         s.AusgewählteZeilen[s.AusgewähltAnzahl] = i;
         s.AusgewählteDateien[s.AusgewähltAnzahl] = z.eintrag;
     }
+}
+
+int32_t ListeErstellenAktualisieren(Ergebnisliste& Liste, const std::vector<int32_t>& einträge) {
+    int32_t anzahl = 0;
+    for (const ListenZeile& z : Liste.zeilen)
+        if (std::find(einträge.begin(), einträge.end(), z.eintrag) != einträge.end()) ++anzahl;
+    Liste.Geändert();
+    KK_TRACE("ListeErstellenAktualisieren", std::to_string(anzahl) + " Felder aktualisiert");
+    return anzahl;
 }

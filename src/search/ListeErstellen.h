@@ -4,6 +4,7 @@
 // gewählt, solange sie im Ergebnis sind.
 #include <cstdint>
 #include <string>
+#include <vector>
 
 struct Kartei;
 struct Ergebnisliste;
@@ -12,6 +13,9 @@ struct Ergebnisliste;
 // die Auswahl. AnzahlZeigen: k.Liste.DateiAnzahlText (lblDateiAnzahl) wird neu gesetzt.
 // Zellentexte berechnet die Anzeige selbst über IndexFeldZurückgeben.
 void ListeErstellen(Kartei& k, Ergebnisliste& Liste, bool AnzahlZeigen);
+// Die Zeilen der genannten Einträge neu schreiben, ohne zu suchen (nach dem Tag-Editor): die
+// Anzeige rechnet ihre Texte neu, sobald der Stand der Liste wächst. Ergebnis: so viele Zeilen.
+int32_t ListeErstellenAktualisieren(Ergebnisliste& Liste, const std::vector<int32_t>& einträge);
 // AusgewählteDateien/AusgewählteZeilen/AusgewähltAnzahl aus den gewählten Zeilen der Liste.
 void AuswahlAktualisieren(Kartei& k, const Ergebnisliste& Liste);
 // "n Datei(en) gefunden", Zeilenumbruch, "m Datei(en) im Index".

@@ -42,15 +42,15 @@ const std::string KeinGenre(1, '\xFF');
 // Genre über seinen Namen (gleich lang, Groß/Klein egal), von Zeile 1 an: "dance hall" ist
 // Code 125, nicht der zweite Eintrag gleichen Namens.
 void GenreSetzen(DateiInfo& ergebnis, const std::string& wort, int16_t modus) {
-    for (int32_t code = 0; code < GenreAnzahl(); ++code) {
-        if (!TexteGleich(GenreName(code), wort)) continue;
-        // Das ID3v1-Feld hält genau ein Zeichen, den Code; das Wort selbst darin gäbe beim
-        // Schreiben ein falsches Genre.
-        ergebnis.Mp3_ID3v1_Genre = std::string(1, static_cast<char>(code));
-        if (V2(modus)) ergebnis.Mp3_ID3v2_TCON = GenreName(code);
+    const int32_t code = GenreCodeOhneGroßKlein(wort);
+    if (code < 0) {
+        ergebnis.Mp3_ID3v1_Genre = KeinGenre;
         return;
     }
-    ergebnis.Mp3_ID3v1_Genre = KeinGenre;
+    // Das ID3v1-Feld hält genau ein Zeichen, den Code; das Wort selbst darin gäbe beim
+    // Schreiben ein falsches Genre.
+    ergebnis.Mp3_ID3v1_Genre = std::string(1, static_cast<char>(code));
+    if (V2(modus)) ergebnis.Mp3_ID3v2_TCON = GenreName(code);
 }
 
 // Alte Daten löschen; Originalinterpret und Titel bleiben mit Absicht stehen.
@@ -109,12 +109,10 @@ void AutoTagFeldSetzen(DateiInfo& ergebnis, std::string_view platzhalterKlein, c
         KK_TRACE("AutoTagVersuchen", "Es wurde ein ungültiger Platzhalter verwendet: " + std::string(platzhalterKlein));
 }
 
-bool AutoTagVersuchen(Kartei& k, const std::string& dateiname, const std::string& format, DateiInfo& ergebnis,
-                      const DateiInfo& ausgangsdaten, int16_t modus) {
-    const std::string name = k.E.AutoTagUnterstrichEntfernen == 1 ? Ersetzen(dateiname, "_", " ") : dateiname;
-    ergebnis = ausgangsdaten;
-    EinsBasiert<std::string> platzhalter, trenner, wörter;
-    int32_t anzahl = 0;
+namespace {
+// Liest das Format und prüft, ob es sich überhaupt anwenden lässt. false: eine Meldung sagt warum.
+bool FormatZerlegen(Kartei& k, const std::string& format, EinsBasiert<std::string>& platzhalter,
+                    EinsBasiert<std::string>& trenner, int32_t& anzahl) {
     if (format.empty())
         return Melden(k, "Sie haben kein AutoTAG-Format ausgewählt, nach dem der TAG erkannt werden soll.\n"
                          "Bitte wählen Sie eines im 'Format'-Fenster aus.");
@@ -126,15 +124,30 @@ bool AutoTagVersuchen(Kartei& k, const std::string& dateiname, const std::string
     if (anzahl == 0)
         return Melden(k, "Das von Ihnen zu Erkennung des TAGs verwendete Format konnte nicht auf den Dateinamen "
                          "angewendet werden.");
+    if (anzahl >= 2 && BeginntMitText(platzhalter[1], "%automatik%"))
+        return Melden(k, "Bei Verwendung der Erkennungs-Variable '%Automatik%' können keine weiteren Variablen "
+                         "verwendet werden.");
+    return true;
+}
+}  // namespace
+
+bool AutoTagFormatPrüfen(Kartei& k, const std::string& format) {
+    EinsBasiert<std::string> platzhalter, trenner;
+    int32_t anzahl = 0;
+    return FormatZerlegen(k, format, platzhalter, trenner, anzahl);
+}
+
+bool AutoTagVersuchen(Kartei& k, const std::string& dateiname, const std::string& format, DateiInfo& ergebnis,
+                      const DateiInfo& ausgangsdaten, int16_t modus) {
+    const std::string name = k.E.AutoTagUnterstrichEntfernen == 1 ? Ersetzen(dateiname, "_", " ") : dateiname;
+    ergebnis = ausgangsdaten;
+    EinsBasiert<std::string> platzhalter, trenner, wörter;
+    int32_t anzahl = 0;
+    if (!FormatZerlegen(k, format, platzhalter, trenner, anzahl)) return false;
     const bool automatik = BeginntMitText(platzhalter[1], "%automatik%");
     if (!automatik && !WörterVonRechts(k, name, trenner, anzahl, wörter)) return false;
-    if (automatik) {
-        if (anzahl >= 2)
-            return Melden(k, "Bei Verwendung der Erkennungs-Variable '%Automatik%' können keine weiteren Variablen "
-                             "verwendet werden.");
-        if (!DateinamenLesen(k, name, wörter, anzahl, true))
-            return Melden(k, "Der Dateiname '" + name + "' konnte nicht verarbeitet werden.");
-    }
+    if (automatik && !DateinamenLesen(k, name, wörter, anzahl, true))
+        return Melden(k, "Der Dateiname '" + name + "' konnte nicht verarbeitet werden.");
 
     ergebnis.Mp3_ID3v1_TAG = "TAG";
     if (k.E.AutoTagFelderLöschen == 1) FelderLeeren(ergebnis, modus);

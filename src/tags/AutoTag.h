@@ -34,6 +34,10 @@ bool AutoTagWortIgnorieren(const Kartei& k, std::string_view wort);
 bool DateinamenLesen(const Kartei& k, std::string_view dateiname, EinsBasiert<std::string>& wörter, int32_t& anzahl,
                      bool ignorieren);
 
+// Lässt sich das Format anwenden (nicht leer, "%" paarweise, ein Platzhalter, "%Automatik%"
+// allein)? false: eine Meldung (Information) hat den Grund genannt.
+bool AutoTagFormatPrüfen(Kartei& k, const std::string& format);
+
 // Leitet aus dateiname nach format die Felder ab: ergebnis beginnt als ausgangsdaten. true, wenn
 // ein Ergebnis dasteht; bei false hat eine Meldung (Information) den Grund genannt und ergebnis
 // ist unbrauchbar.

@@ -2,6 +2,7 @@
 #include "tags/AutoTagStapel.h"
 
 #include "app/Kartei.h"
+#include "app/Pfade.h"
 #include "app/Tabelle.h"
 #include "intake/NichtVerfuegbar.h"
 #include "media/Id3v1.h"
@@ -23,13 +24,17 @@ bool Weitermachen(Kartei& k, const std::string& fehler) {
 }
 
 // Die Funktion auf den Eintrag anwenden; 0 gelungen, 1 nicht (weiter), 2 abbrechen.
-int16_t Anwenden(Kartei& k, int32_t n, int32_t funktion, const std::string& format, int16_t modus, DateiInfo& arbeit) {
+int16_t Anwenden(Kartei& k, int32_t n, int32_t funktion, const std::string& format, int16_t modus,
+                 const TagKopie* kopie, DateiInfo& arbeit) {
     if (funktion == TagFunktionAutoTag) {
         if (AutoTagVersuchen(k, k.DateiPfade[n], format, arbeit, k.DateiDaten[n], modus)) return 0;
         return Weitermachen(k, "Es ist ein Fehler in der Funktion 'AutoTAG' aufgetreten.") ? 1 : 2;
     }
     arbeit = k.DateiDaten[n];
-    if (TagFunktionAnwenden(k, funktion, arbeit, modus)) return 0;
+    const bool gelungen = funktion == TagFunktionFelderKopieren && kopie
+                              ? TagFelderKopieren(k, kopie->quelle, arbeit, kopie->felder, modus)
+                              : TagFunktionAnwenden(k, funktion, arbeit, modus);
+    if (gelungen) return 0;
     return Weitermachen(k, "") ? 1 : 2;
 }
 
@@ -69,7 +74,7 @@ AutoTagStapelErgebnis AutoTagStapel(Kartei& k, const std::vector<int32_t>& eintr
 }
 
 AutoTagStapelErgebnis TagFunktionStapel(Kartei& k, const std::vector<int32_t>& einträge, int32_t funktion,
-                                        const std::string& format, int16_t modus) {
+                                        const std::string& format, int16_t modus, const TagKopie* kopie) {
     AutoTagStapelErgebnis e;
     NichtVerfügbarFragenZurücksetzen(k);
     const bool bekannt = funktion >= 0 && funktion < static_cast<int32_t>(TagFunktionen().size());
@@ -84,8 +89,13 @@ AutoTagStapelErgebnis TagFunktionStapel(Kartei& k, const std::vector<int32_t>& e
         const int16_t verfügbar = DateiNichtVerfügbarPrüfen(k, n, true, false);
         e.abgebrochen = verfügbar == 2;
         if (verfügbar != 0) continue;
+        // Der Index kann hinter der Datei zurück sein; geschrieben wird, was in ihr steht, plus die Funktion.
+        if (DoesExist(k.DateiPfade[n])) {
+            k.DateiDaten[n] = MedienInfosLesen(k, k.DateiPfade[n], k.DateiDaten[n], "11", false, "1", "0");
+            DateiGeändertSetzen(k);
+        }
         DateiInfo arbeit;
-        int16_t ergebnis = Anwenden(k, n, funktion, format, modus, arbeit);
+        int16_t ergebnis = Anwenden(k, n, funktion, format, modus, kopie, arbeit);
         if (ergebnis == 0) ergebnis = AutoTagTagsSpeichern(k, n, arbeit, modus);
         if (ergebnis == 0) ++e.gespeichert;
         else ++e.nichtGespeichert;

@@ -24,7 +24,14 @@ struct AutoTagStapelErgebnis {
 // Datensatz als Ausgangsdaten, Tags speichern. Der Index selbst wird hier nicht gespeichert.
 AutoTagStapelErgebnis AutoTagStapel(Kartei& k, const std::vector<int32_t>& einträge, const std::string& format,
                                     int16_t modus);
-// Dasselbe für eine Funktion des Tag-Editors: 0 AutoTag mit format, 2 bis 9 (TagFunktionen.h).
-// Scheitert sie an einer Datei, wird gefragt, ob es weitergeht; die Datei bleibt dann, wie sie ist.
+// Für "Felder kopieren...": woher die Werte kommen und welche Felder (Nummern in TagKopierFelder).
+struct TagKopie {
+    DateiInfo quelle;
+    std::vector<int32_t> felder;
+};
+// Dasselbe für eine Funktion des Tag-Editors: 0 AutoTag mit format, 2 bis 9 (TagFunktionen.h), 10
+// mit kopie. Jeder Eintrag wird vorher aus seiner Datei aufgefrischt, damit nur die Änderung der
+// Funktion hinzukommt. Scheitert sie an einer Datei, wird gefragt, ob es weitergeht; die Datei
+// bleibt dann, wie sie ist.
 AutoTagStapelErgebnis TagFunktionStapel(Kartei& k, const std::vector<int32_t>& einträge, int32_t funktion,
-                                        const std::string& format, int16_t modus);
+                                        const std::string& format, int16_t modus, const TagKopie* kopie = nullptr);

@@ -4,6 +4,7 @@
 
 #include "app/Kartei.h"
 #include "app/Texte.h"
+#include "media/Genres.h"
 #include "tags/AutoTag.h"
 
 #include <algorithm>
@@ -40,6 +41,11 @@ std::vector<const TagFelder*> Tags(int16_t modus) {
     if (modus != AutoTagModusV2) t.push_back(&V1Felder);
     if (modus != AutoTagModusV1) t.push_back(&V2Felder);
     return t;
+}
+
+// Titel, Interpret, Album, Jahr, Titelnummer, Genre, Kommentar: die Reihe von TagKopierFelder.
+std::array<Feld, 7> Reihe(const TagFelder& t) {
+    return {t.titel, t.interpret, t.album, t.jahr, t.titelnummer, t.genre, t.kommentar};
 }
 
 bool Melden(Kartei& k, const std::string& text) {
@@ -178,14 +184,41 @@ bool TagFunktionAnwenden(Kartei& k, int32_t funktion, DateiInfo& d, int16_t modu
     return gelungen;
 }
 
+bool TagKopierFelderGewählt(Kartei& k, const std::vector<int32_t>& felder) {
+    return !felder.empty() || Melden(k, "Bitte wählen Sie mindestens einen Listeneintrag.");
+}
+
 bool TagFelderKopieren(Kartei& k, const DateiInfo& quelle, DateiInfo& ziel, const std::vector<int32_t>& felder,
                        int16_t modus) {
-    if (felder.empty()) return Melden(k, "Bitte wählen Sie mindestens einen Listeneintrag.");
+    if (!TagKopierFelderGewählt(k, felder)) return false;
     for (const TagFelder* t : Tags(modus)) {
-        const std::array<Feld, 7> reihe = {t->titel,       t->interpret, t->album,    t->jahr,
-                                           t->titelnummer, t->genre,     t->kommentar};
+        const auto reihe = Reihe(*t);
         for (const int32_t f : felder)
             if (f >= 0 && f < 7) ziel.*reihe[static_cast<size_t>(f)] = quelle.*reihe[static_cast<size_t>(f)];
+    }
+    return true;
+}
+
+bool TagFelderAusAnderemTag(Kartei& k, DateiInfo& d, const std::vector<int32_t>& felder, int16_t modus) {
+    if (!TagKopierFelderGewählt(k, felder)) return false;
+    // Die Quelle hält in jedem Tag, was im anderen steht.
+    DateiInfo quelle = d;
+    const auto v1 = Reihe(V1Felder), v2 = Reihe(V2Felder);
+    for (size_t i = 0; i < v1.size(); ++i) {
+        quelle.*v1[i] = d.*v2[i];
+        quelle.*v2[i] = d.*v1[i];
+    }
+    const int32_t code = GenreCodeOhneGroßKlein(d.Mp3_ID3v2_TCON);
+    quelle.Mp3_ID3v1_Genre = std::string(1, static_cast<char>(code >= 0 ? code : 255));
+    const int32_t v1Code = d.Mp3_ID3v1_Genre.empty() ? 255 : static_cast<unsigned char>(d.Mp3_ID3v1_Genre[0]);
+    quelle.Mp3_ID3v2_TCON = GenreName(v1Code);
+    if (modus != AutoTagModusBeide) return TagFelderKopieren(k, quelle, d, felder, modus);
+    for (const int32_t f : felder) {
+        if (f < 0 || f >= 7) continue;
+        const auto i = static_cast<size_t>(f);
+        const bool v1Leer = f == 5 ? v1Code >= GenreAnzahl() : (d.*v1[i]).empty();
+        if (v1Leer) d.*v1[i] = quelle.*v1[i];
+        else if ((d.*v2[i]).empty()) d.*v2[i] = quelle.*v2[i];
     }
     return true;
 }

@@ -29,10 +29,18 @@ bool TagFunktionBestätigen(Kartei& k, int32_t funktion, int32_t ziel);
 // eine Meldung hat gesagt, warum nicht (oder nicht ganz); was gelang, bleibt im Datensatz.
 bool TagFunktionAnwenden(Kartei& k, int32_t funktion, DateiInfo& d, int16_t modus);
 
+// Ist mindestens ein Feld gewählt? Sonst die Meldung von "Felder kopieren..." und false.
+bool TagKopierFelderGewählt(Kartei& k, const std::vector<int32_t>& felder);
+
 // "Felder kopieren...": die gewählten Felder (Nummern in TagKopierFelder) von quelle nach ziel,
 // je Tag nach modus. Ohne Wahl die Meldung und false.
 bool TagFelderKopieren(Kartei& k, const DateiInfo& quelle, DateiInfo& ziel, const std::vector<int32_t>& felder,
                        int16_t modus);
+
+// "Felder kopieren..." für eine Datei: die gewählten Felder aus dem anderen Tag derselben Datei,
+// ID3v1 aus ID3v2 (modus 1) bzw. ID3v2 aus ID3v1 (modus 2); mit beiden Tags füllt jeder nur
+// seine leeren Felder aus dem anderen. Das Genre geht über seinen Namen.
+bool TagFelderAusAnderemTag(Kartei& k, DateiInfo& d, const std::vector<int32_t>& felder, int16_t modus);
 
 // Die Schreibweisen einzeln (für Tests und das Fenster): nur der erste Buchstabe groß, jeder
 // Wortanfang groß. Ein Wort beginnt nach einem Zeichen, das weder Buchstabe noch Ziffer noch

@@ -2,6 +2,8 @@
 
 #include "app/Kartei.h"
 #include "ui/Umrechnung.h"
+#include "ui/dialoge/frmAusfuehrenMit.h"
+#include "ui/dialoge/frmBildAnzeige.h"
 #include "ui/dialoge/frmDateiNichtVerfuegbar.h"
 #include "ui/dialoge/frmDateiname.h"
 #include "ui/dialoge/frmVerschiebenDateiExistiert.h"
@@ -204,6 +206,7 @@ bool GuiOberfläche::DateiZumSpeichernWählen(const std::string& titel, const st
 }
 
 QWidget* GuiOberfläche::SichtbarerBesitzer() const {
+    if (vordergrund && vordergrund->isVisible()) return vordergrund;
     QWidget* b = Besitzer();
     return b && b->isVisible() ? b : nullptr;
 }
@@ -215,4 +218,18 @@ int GuiOberfläche::DialogAusführen(QDialog& dialog) {
     dialogSkript(dialog);
     if (dialog.isVisible()) dialog.reject();
     return dialog.result();
+}
+
+void GuiOberfläche::BildAnzeigen(const std::string& pfad) {
+    if (!bildAnzeige_) bildAnzeige_ = new frmBildAnzeige(Besitzer());
+    // Ein Bild, das sich nicht laden lässt, zeigt nichts und meldet nichts.
+    if (!bildAnzeige_->BildLaden(pfad)) return;
+    if (!bildAnzeige_->isVisible()) bildAnzeige_->show();
+}
+
+bool GuiOberfläche::AusführenMitWählen(std::string& programm, const std::function<bool(const std::string&)>& prüfen) {
+    frmAusführenMit dialog(SichtbarerBesitzer(), *this, programm, prüfen);
+    if (DialogAusführen(dialog) != QDialog::Accepted) return false;
+    programm = dialog.Programm();
+    return true;
 }

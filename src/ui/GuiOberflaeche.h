@@ -11,6 +11,7 @@
 class QDialog;
 class QString;
 class QWidget;
+class frmBildAnzeige;
 class frmFortschritt;
 
 // "Name|*.a;*.b|Name2|*.c" (Filter des Programms) → "Name (*.a *.b);;Name2 (*.c)" für QFileDialog.
@@ -34,6 +35,8 @@ public:
                        int32_t auswahlLänge) override;
     bool OrdnerWählen(const std::string& titel, std::string& ordner) override;
     bool DateienWählen(const std::string& titel, const std::string& filter, std::vector<std::string>& dateien) override;
+    void BildAnzeigen(const std::string& pfad) override;
+    bool AusführenMitWählen(std::string& programm, const std::function<bool(const std::string&)>& prüfen) override;
     int16_t VerschiebenDateiExistiert(const std::string& text) override;
 
     // Einen Dialog modal zeigen; mit dialogSkript wird er nur gezeigt und dem Skript übergeben.
@@ -51,6 +54,10 @@ public:
     // Bildschirms statt an einem Hauptfenster, das noch gar nicht gezeigt wird.
     QWidget* SichtbarerBesitzer() const;
 
+    // Ein Fenster über dem Besitzer (der Tag-Editor): solange es zu sehen ist, gehören ihm
+    // Meldungen, Dialoge und das Fortschrittsfenster, sonst wären sie hinter ihm gesperrt.
+    QPointer<QWidget> vordergrund;
+
     // Das Hauptfenster hängt sich hier ein.
     std::function<void(const std::string&, int32_t)> titelNachricht;
     std::function<void()> fortschrittAbbrechen;  // Knopf "Abbrechen" des Fortschrittsfensters
@@ -66,5 +73,6 @@ public:
 private:
     std::function<QWidget*()> besitzer_;
     QPointer<frmFortschritt> fortschritt_;  // gehört dem Besitzer, sonst uns
+    QPointer<frmBildAnzeige> bildAnzeige_;  // bleibt versteckt da, um wieder gezeigt zu werden
     QElapsedTimer ereignisUhr_;
 };

@@ -68,12 +68,18 @@ LinkeSpalte::LinkeSpalte(const FensterBefehle& b, QWidget* eltern) : QFrame(elte
 
     lblWinampSteuerungTitel_ = new QLabel(QStringLiteral("Audio-Player"), this);
     lblWinampSteuerungTitel_->setObjectName(QStringLiteral("lblWinampSteuerungTitel"));
+    lblWinampSteuerungTitel_->setWordWrap(true);  // der Titel, der spielt, ist oft lang
     layout->addWidget(lblWinampSteuerungTitel_);
     lblDateiAnzahl_ = new QLabel(this);
     lblDateiAnzahl_->setObjectName(QStringLiteral("lblDateiAnzahl"));
     lblDateiAnzahl_->setWordWrap(true);
     layout->addSpacing(8);
     layout->addWidget(lblDateiAnzahl_);
+}
+
+void LinkeSpalte::SpielerTafelEinsetzen(QWidget* tafel) {
+    auto* layout = static_cast<QVBoxLayout*>(this->layout());
+    layout->insertWidget(layout->indexOf(lblWinampSteuerungTitel_) + 1, tafel);
 }
 
 QWidget* LinkeSpalte::Gruppe(const QString& name, const QString& überschrift, QWidget* eltern) {

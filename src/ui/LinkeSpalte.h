@@ -24,6 +24,8 @@ public:
     QWidget* fraNurBeiAusgewählt() const { return fraNurBeiAusgewählt_; }
     QLabel* lblDateiAnzahl() const { return lblDateiAnzahl_; }
     QLabel* lblWinampSteuerungTitel() const { return lblWinampSteuerungTitel_; }
+    // Die Tafel des Spielers (fraLinks3) kommt unter lblWinampSteuerungTitel.
+    void SpielerTafelEinsetzen(QWidget* tafel);
 
 protected:
     void mouseMoveEvent(QMouseEvent* ereignis) override;

@@ -40,6 +40,7 @@ frmMain::frmMain(Kartei& k, GuiOberfläche& ui, std::string standardIndex, QWidg
     BefehleAnlegen();
     links_ = new LinkeSpalte(befehle_, mitte);
     layout->addWidget(links_);
+    SpielerAufbauen();
     auto* rechts = new QWidget(mitte);
     rechts->setObjectName(QStringLiteral("fraRechts"));
     auto* rechtsLayout = new QVBoxLayout(rechts);
@@ -210,14 +211,6 @@ void frmMain::TitelSchrittAnwenden(const TitelSchritt& s) {
 }
 
 void frmMain::ZeitgeberStarten() { tmrScrollUpdate_->start(); }
-
-// Spieler gibt es noch nicht; der Zeitgeber sorgt fürs regelmäßige Speichern. Nicht während ein
-// Vorgang läuft: dessen Fortschrittsfenster würde sonst vom Speichern geschlossen.
-void frmMain::tmrScrollUpdate_Timer() {
-    tmrScrollUpdate_->stop();
-    if (!gesperrt_ && !FortschrittFensterOffen(k_) && indexGeladen_) RegelmäßigSpeichernPrüfen(k_);
-    tmrScrollUpdate_->start();
-}
 
 // Gesperrt verliert das Fenster den Fokus; danach bekommt ihn das Element zurück, das ihn hatte,
 // damit weiter Getipptes nicht verloren geht.

@@ -33,6 +33,7 @@ class QStringListModel;
 class QSystemTrayIcon;
 class QTimer;
 class SongListeAnsicht;
+class SpielerTafel;
 
 class frmMain final : public QMainWindow {
 public:
@@ -94,6 +95,8 @@ private:
     void cmdIndexVerwaltung_Click();
     void cmdExportieren_Click();
     void cmdOptionen_Click();
+    void cmdMp3TagAnzeigen_Click();
+    void cmdAutoDJ_Click();
     void mnu_wählealle_Click();
     void mnu_wählekeine_Click();
     void mnu_wähleumkehren_Click();
@@ -138,6 +141,15 @@ private:
     // Suche wie nach dem Start: erstes Feld, leerer Text, Vorschläge des Index; sucht nicht.
     void SucheVorbereiten();
 
+    // Spieler (frmMainSpieler.cpp)
+    void SpielerAufbauen();
+    EinsBasiert<int32_t> Gewählte() const;  // die gewählten Einträge, genau so viele
+    void Abspielen(bool Hinzufügen, bool Ausführen);
+    void cmdEintragAbspielen_Click();
+    void cmdAnhängen_Click();
+    void cmdEintragAusführen_Click();
+    void cmdEintragAusführenMit_Click();
+
     // Schließen (frmMainSchliessen.cpp)
     FensterLage Lage() const;
     // Sichern vor dem Ende: Lage, Index (oder Frage), Einstellungen. false: bleiben.
@@ -157,6 +169,7 @@ private:
     std::string standardIndex_;
 
     LinkeSpalte* links_ = nullptr;
+    SpielerTafel* fraLinks3_ = nullptr;
     QLabel* lblProgramm_ = nullptr;
     LinkLabel* lblIndexdatei_ = nullptr;
     KlickLabel* lblIndexdateiUntertitel1_ = nullptr;
@@ -179,7 +192,7 @@ private:
     QTimer* tmrListe_ = nullptr;         // 600 ms, einmalig, startet nicht neu
     QTimer* tmrTimer1_ = nullptr;        // Titel tippen und halten
     QTimer* tmrTimer2_ = nullptr;        // Wartezeit vor dem Titel
-    QTimer* tmrScrollUpdate_ = nullptr;  // 500 ms: regelmäßiges Speichern
+    QTimer* tmrScrollUpdate_ = nullptr;  // 500 ms: Spieler, Erkennung, regelmäßiges Speichern
     QTimer* auswahlTimer_ = nullptr;     // fasst viele Auswahländerungen zu einer Anzeige zusammen
     TitelAnimation titel_;
     bool gesperrt_ = false;

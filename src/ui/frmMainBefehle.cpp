@@ -11,6 +11,8 @@
 #include "ui/dialoge/BerichteZeigen.h"
 #include "ui/dialoge/frmOptionen.h"
 #include "ui/Farben.h"
+#include "ui/dialoge/frmMp3Tag.h"
+#include "ui/dialoge/frmAutoDJ.h"
 #include "ui/frmMain.h"
 
 #include <QAction>
@@ -47,13 +49,13 @@ void frmMain::BefehleAnlegen() {
         {&B::cmdListeAufräumen, "cmdListeAufräumen", "Index synchronisieren", &frmMain::cmdListeAufräumen_Click},
         {&B::cmdIndexVerwaltung, "cmdIndexVerwaltung", "Index-Verwaltung", &frmMain::cmdIndexVerwaltung_Click},
         {&B::cmdIndexStatistik, "cmdIndexStatistik", "Index-Statistiken", &frmMain::cmdIndexStatistik_Click},
-        {&B::cmdAutoDJ, "cmdAutoDJ", "AutoDJ", &frmMain::NichtEingebaut},
+        {&B::cmdAutoDJ, "cmdAutoDJ", "AutoDJ", &frmMain::cmdAutoDJ_Click},
         {&B::cmdAuswählen, "cmdAuswählen", "Auswählen", &frmMain::cmdAuswählen_Click},
-        {&B::cmdEintragAbspielen, "cmdEintragAbspielen", "Abspielen", &frmMain::NichtEingebaut},
-        {&B::cmdAnhängen, "cmdAnhängen", "In Playlist", &frmMain::NichtEingebaut},
-        {&B::cmdEintragAusführen, "cmdEintragAusführen", "Ausführen", &frmMain::NichtEingebaut},
-        {&B::cmdEintragAusführenMit, "cmdEintragAusführenMit", "Ausführen mit", &frmMain::NichtEingebaut},
-        {&B::cmdMp3TagAnzeigen, "cmdMp3TagAnzeigen", "Datei-Infos", &frmMain::NichtEingebaut},
+        {&B::cmdEintragAbspielen, "cmdEintragAbspielen", "Abspielen", &frmMain::cmdEintragAbspielen_Click},
+        {&B::cmdAnhängen, "cmdAnhängen", "In Playlist", &frmMain::cmdAnhängen_Click},
+        {&B::cmdEintragAusführen, "cmdEintragAusführen", "Ausführen", &frmMain::cmdEintragAusführen_Click},
+        {&B::cmdEintragAusführenMit, "cmdEintragAusführenMit", "Ausführen mit", &frmMain::cmdEintragAusführenMit_Click},
+        {&B::cmdMp3TagAnzeigen, "cmdMp3TagAnzeigen", "Datei-Infos", &frmMain::cmdMp3TagAnzeigen_Click},
         {&B::cmdExportieren, "cmdExportieren", "Export", &frmMain::cmdExportieren_Click},
         {&B::cmdDateiEntfernen, "cmdDateiEntfernen", "Aus Index entfernen", &frmMain::cmdDateiEntfernen_Click},
         {&B::cmdDateienLöschen, "cmdDateienLöschen", "Löschen", &frmMain::cmdDateienLöschen_Click},
@@ -209,6 +211,23 @@ void frmMain::cmdOptionen_Click() {
     ListeAnzeigen();
 }
 
+void frmMain::cmdMp3TagAnzeigen_Click() {
+    AuswahlAktualisieren();
+    std::vector<int32_t> einträge;
+    for (int32_t i = 1; i <= AusgewähltAnzahl(); ++i) einträge.push_back(AusgewählteDateien()[i]);
+    if (einträge.empty()) return;
+    TagEditorZeigen(this, k_, ui_, einträge);
+    SucheNachlauf();
+}
+
+void frmMain::cmdAutoDJ_Click() {
+    // Abspielen und Tag-Dialog fehlen noch; bis dahin sagen die Knöpfe es.
+    AutoDJBefehle befehle{[this](const std::vector<int32_t>&, bool) { NichtEingebaut(); },
+                          [this](const std::vector<int32_t>&) { NichtEingebaut(); }};
+    frmAutoDJ dialog(this, k_, std::move(befehle));
+    ui_.DialogAusführen(dialog);
+}
+
 void frmMain::cmdAuswählen_Click() {
     MenüZustandSetzen(false);
     LinkLabel* knopf = links_->Verweis(befehle_.cmdAuswählen);
@@ -254,10 +273,4 @@ void frmMain::mnu_song_zwischenablage_Click() {
     AuswahlAktualisieren();
     const std::string pfad = ZwischenablagePfad(k_, AusgewählteDateien(), AusgewähltAnzahl());
     if (!pfad.empty()) k_.shell.InZwischenablage(pfad);
-}
-
-void frmMain::lstSongs_DblClick() {
-    AuswahlAktualisierenUndZeigen();
-    if (AusgewähltAnzahl() < 1) return;
-    NichtEingebaut();  // Abspielen nach BeiDoppelklick kommt mit dem Spieler
 }

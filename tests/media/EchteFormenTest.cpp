@@ -132,13 +132,7 @@ std::pair<int, std::string> Vergleichen(const std::string& vorher, const std::st
                                         const std::string& schalter) {
     const std::string befehl =
         std::string(KK_PYTHON) + " " + KK_ID3_VERGLEICH + " '" + vorher + "' '" + nachher + "' " + schalter + " 2>&1";
-    FILE* p = ::popen(befehl.c_str(), "r");
-    if (!p) return {-1, "popen"};
-    std::string aus;
-    char puffer[4096];
-    while (size_t n = std::fread(puffer, 1, sizeof puffer, p)) aus.append(puffer, n);
-    const int status = ::pclose(p);
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, aus};
+    return ShellAufruf(befehl);
 }
 }  // namespace
 

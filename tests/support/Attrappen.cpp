@@ -69,6 +69,18 @@ bool TestOberfläche::DateienWählen(const std::string&, const std::string&, std
     return true;
 }
 
+// Jede Eingabe geht durch die Prüfung, wie ein Druck auf OK; die erste gültige gilt.
+bool TestOberfläche::AusführenMitWählen(std::string& programm, const std::function<bool(const std::string&)>& prüfen) {
+    while (!ausführenMitEingaben.empty()) {
+        std::string eingabe = ausführenMitEingaben.front();
+        ausführenMitEingaben.pop_front();
+        if (!prüfen(eingabe)) continue;
+        programm = eingabe;
+        return true;
+    }
+    return false;
+}
+
 int16_t TestOberfläche::VerschiebenDateiExistiert(const std::string& text) {
     existiertFragen.push_back(text);
     int16_t antwort = 3;
@@ -99,6 +111,7 @@ bool TestRegistrierung::ZahlSetzen(const std::string& name, int32_t wert) {
 
 int32_t TestSpieler::NachrichtSenden(int64_t, uint32_t n, int32_t w, int32_t l) {
     gesendet.push_back({n, w, l});
+    if (beantworten) return beantworten(n, w, l);
     auto it = antworten.find(n);
     return it == antworten.end() ? 0 : it->second;
 }
@@ -110,6 +123,7 @@ bool TestShell::Öffnen(const std::string& ziel) {
 
 int64_t TestShell::ProgrammStarten(const std::string& p, const std::vector<std::string>& a, bool) {
     gestartet.push_back({p, a});
+    if (beiStart) beiStart(gestartet.back());
     return gelingt ? 4711 : 0;
 }
 

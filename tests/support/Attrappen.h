@@ -59,6 +59,10 @@ public:
                        int32_t länge) override;
     bool OrdnerWählen(const std::string&, std::string& ordner) override;
     bool DateienWählen(const std::string&, const std::string&, std::vector<std::string>& dateien) override;
+    std::vector<std::string> bilder;               // jedes gezeigte Bild
+    std::deque<std::string> ausführenMitEingaben;  // Eingaben in "Ausführen mit"; leer = Abbrechen
+    void BildAnzeigen(const std::string& pfad) override { bilder.push_back(pfad); }
+    bool AusführenMitWählen(std::string& programm, const std::function<bool(const std::string&)>& prüfen) override;
     int16_t VerschiebenDateiExistiert(const std::string& text) override;
 };
 
@@ -85,6 +89,8 @@ public:
     int64_t fenster = 0;  // 0: kein Spieler
     std::string titel;
     std::map<uint32_t, int32_t> antworten;  // Nachricht → Ergebnis
+    // Wenn gesetzt, antwortet sie statt der Tabelle (Nachricht, wParam, lParam → Ergebnis).
+    std::function<int32_t(uint32_t, int32_t, int32_t)> beantworten;
     struct Nachricht {
         uint32_t nachricht;
         int32_t wParam, lParam;
@@ -104,6 +110,7 @@ public:
     };
     std::vector<Start> gestartet;
     bool gelingt = true;
+    std::function<void(const Start&)> beiStart;  // läuft bei jedem ProgrammStarten
     bool Öffnen(const std::string& ziel) override;
     int64_t ProgrammStarten(const std::string& p, const std::vector<std::string>& a, bool) override;
     bool InPapierkorb(const std::string& pfad, std::string& fehler) override;

@@ -1,5 +1,6 @@
 #include "support/CliAufruf.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <sys/wait.h>
 
@@ -29,4 +30,14 @@ CliErgebnis CliAufrufen(const char* cli, const TestOrdner& o, const std::vector<
 CliErgebnis CliMitIndex(const char* cli, const TestOrdner& o, std::vector<std::string> argumente) {
     argumente.insert(argumente.begin(), {"--index", "i.kkt"});
     return CliAufrufen(cli, o, argumente);
+}
+
+std::pair<int, std::string> ShellAufruf(const std::string& befehl) {
+    FILE* p = ::popen(befehl.c_str(), "r");
+    if (!p) return {-1, "popen"};
+    std::string aus;
+    char puffer[4096];
+    while (size_t n = std::fread(puffer, 1, sizeof puffer, p)) aus.append(puffer, n);
+    const int status = ::pclose(p);
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, aus};
 }

@@ -3,6 +3,7 @@
 #include "support/TestOrdner.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 struct CliErgebnis {
@@ -15,3 +16,6 @@ CliErgebnis CliAufrufen(const char* cli, const TestOrdner& o, const std::vector<
 
 // Dasselbe mit "--index i.kkt" vorweg: der Index im Testordner.
 CliErgebnis CliMitIndex(const char* cli, const TestOrdner& o, std::vector<std::string> argumente);
+
+// Ein Befehl über die Shell; Rückgabe und Ausgabe (stdout, mit "2>&1" auch stderr).
+std::pair<int, std::string> ShellAufruf(const std::string& befehl);

@@ -24,12 +24,6 @@ DateiInfo& Eintrag(Kartei& k, const std::string& pfad) {
     d.Mp3_ID3v1_Status = 1;
     return d;
 }
-
-// Ein Bildschirmfoto nach KK_BILDER, wenn gesetzt.
-void Foto(QWidget& w, const char* name) {
-    const QByteArray ordner = qgetenv("KK_BILDER");
-    if (!ordner.isEmpty()) w.grab().save(QString::fromUtf8(ordner) + QLatin1Char('/') + QString::fromUtf8(name));
-}
 }  // namespace
 
 class BerichteFensterTest : public QObject {

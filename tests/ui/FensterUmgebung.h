@@ -28,7 +28,7 @@ struct Fenster {
     QWidget* besitzer = nullptr;
     GuiOberfläche ui{[this] { return besitzer; }};
     KonfigRegistrierung registrierung{KonfigOrdner() + "/klangkartei.conf"};
-    KeinSpielerfenster spieler;
+    TestSpieler spieler;  // fenster 0: kein Spieler
     TestShell shell;
     TestDatenträger datenträger;
     SystemUhr uhr;

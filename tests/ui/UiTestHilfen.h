@@ -60,3 +60,9 @@ inline bool Drücken(QWidget& fenster, const char* name) {
     QTest::mouseClick(knopf, Qt::LeftButton);
     return true;
 }
+
+// Ein Bildschirmfoto nach KK_BILDER, wenn gesetzt (zum Ansehen, nicht zum Vergleichen).
+inline void Foto(QWidget& w, const char* name) {
+    const QByteArray ordner = qgetenv("KK_BILDER");
+    if (!ordner.isEmpty()) w.grab().save(QString::fromUtf8(ordner) + QLatin1Char('/') + QString::fromUtf8(name));
+}

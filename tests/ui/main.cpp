@@ -12,6 +12,10 @@ int FensterTestAusführen(int argc, char** argv);
 int ListeTestAusführen(int argc, char** argv);
 int BerichteFensterTestAusführen(int argc, char** argv);
 int OptionenFensterTestAusführen(int argc, char** argv);
+int TagEditorFensterTestAusführen(int argc, char** argv);
+int AutoDJFensterTestAusführen(int argc, char** argv);
+int DateiFensterTestAusführen(int argc, char** argv);
+int SpielerFensterTestAusführen(int argc, char** argv);
 int UmbenennenFensterTestAusführen(int argc, char** argv);
 int DiensteFensterTestAusführen(int argc, char** argv);
 
@@ -32,6 +36,10 @@ int main(int argc, char** argv) {
     fehler += AnsichtTestAusführen(argc, argv);
     fehler += BerichteFensterTestAusführen(argc, argv);
     fehler += OptionenFensterTestAusführen(argc, argv);
+    fehler += TagEditorFensterTestAusführen(argc, argv);
+    fehler += AutoDJFensterTestAusführen(argc, argv);
+    fehler += DateiFensterTestAusführen(argc, argv);
+    fehler += SpielerFensterTestAusführen(argc, argv);
     fehler += UmbenennenFensterTestAusführen(argc, argv);
     fehler += DiensteFensterTestAusführen(argc, argv);
     return fehler;
