@@ -20,11 +20,6 @@ DateiInfo& Eintrag(Kartei& k, const std::string& pfad) {
     return k.DateiDaten[k.DateiAnzahl];
 }
 
-void Foto(QWidget& w, const char* name) {
-    const QByteArray ordner = qgetenv("KK_BILDER");
-    if (!ordner.isEmpty()) w.grab().save(QString::fromUtf8(ordner) + QLatin1Char('/') + QString::fromUtf8(name));
-}
-
 QString Q8(const std::string& s) { return QString::fromStdString(s); }
 }  // namespace
 

@@ -24,11 +24,6 @@
 #include <QTabWidget>
 
 namespace {
-void Foto(QWidget& w, const char* name) {
-    const QByteArray ordner = qgetenv("KK_BILDER");
-    if (!ordner.isEmpty()) w.grab().save(QString::fromUtf8(ordner) + QLatin1Char('/') + QString::fromUtf8(name));
-}
-
 std::string Mp3(const std::string& name) {
     mpeg::V2Tag v2;
     v2.rahmen = {mpeg::Text("TIT2", "Lied " + name), mpeg::Text("TPE1", "Band"), mpeg::Text("TALB", "Platte"),
