@@ -11,11 +11,6 @@
 #include <QSlider>
 
 namespace {
-void Foto(QWidget& w, const char* name) {
-    const QByteArray ordner = qgetenv("KK_BILDER");
-    if (!ordner.isEmpty()) w.grab().save(QString::fromUtf8(ordner) + QLatin1Char('/') + QString::fromUtf8(name));
-}
-
 bool Gesendet(const TestSpieler& s, uint32_t n, int32_t w, int32_t l) {
     for (const auto& m : s.gesendet)
         if (m.nachricht == n && m.wParam == w && m.lParam == l) return true;

@@ -25,10 +25,6 @@ std::vector<int32_t> Einträge(Kartei& k, const TestOrdner& o, const std::vector
     return liste;
 }
 
-void Foto(QWidget& w, const char* name) {
-    const QByteArray ordner = qgetenv("KK_BILDER");
-    if (!ordner.isEmpty()) w.grab().save(QString::fromUtf8(ordner) + QLatin1Char('/') + QString::fromUtf8(name));
-}
 }  // namespace
 
 class UmbenennenFensterTest : public QObject {
