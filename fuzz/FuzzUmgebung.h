@@ -28,6 +28,8 @@ public:
     bool OrdnerWählen(const std::string&, std::string&) override { return false; }
     bool DateienWählen(const std::string&, const std::string&, std::vector<std::string>&) override { return false; }
     int16_t VerschiebenDateiExistiert(const std::string&) override { return 3; }  // abbrechen
+    void BildAnzeigen(const std::string&) override {}
+    bool AusführenMitWählen(std::string&, const std::function<bool(const std::string&)>&) override { return false; }
 };
 
 // Die Dienste und eine frische Kartei darüber. Die Registrierung darf ein Ziel selbst stellen.
