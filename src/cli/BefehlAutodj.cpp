@@ -54,7 +54,7 @@ int Ausführen(CliKontext& c, const std::vector<std::string>& argumente) {
     std::vector<AutoDJZeile> zeilen;
     if (!AutoDJErstellen(c.k, o, zeilen)) return 1;
     for (const auto& z : zeilen) std::printf("%d\t%s\n", z.eintrag, AusgabeMaskieren(z.text).c_str());
-    std::printf("%s\n", AutoDJGefundenText(zeilen.size()).c_str());
+    std::printf("%s\n", GefundenAnzahlText(zeilen.size()).c_str());
     return std::fflush(stdout) == 0 ? 0 : 1;
 }
 }  // namespace

@@ -207,8 +207,6 @@ bool AutoDJErstellen(Kartei& k, const AutoDJOptionen& o, std::vector<AutoDJZeile
     return true;
 }
 
-std::string AutoDJGefundenText(size_t anzahl) { return std::to_string(anzahl) + " Datei(en) gefunden"; }
-
 AutoDJDetails AutoDJAuswahlDetails(const Kartei& k, const std::vector<int32_t>& auswahl) {
     AutoDJDetails d{"Dateiname", "", ""};
     if (auswahl.size() > 1) {

@@ -1,5 +1,7 @@
 #pragma once
 // AutoDJ: aus den Abspielzahlen einer Genre-Auswahl eine kurze, gemischte Liste vorschlagen.
+#include "search/ListeErstellen.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -42,7 +44,5 @@ void AutoDJOptionenSpeichern(Kartei& k, const AutoDJOptionen& o);
 // (auch leer, wenn das Zeitfenster alle ausschließt). Einträge ohne ID3v1-Tag fehlen in ihr.
 bool AutoDJErstellen(Kartei& k, const AutoDJOptionen& o, std::vector<AutoDJZeile>& zeilen);
 
-// "N Datei(en) gefunden"
-std::string AutoDJGefundenText(size_t anzahl);
 // Die Details zu den markierten Einträgen (keiner: die Grundstellung).
 AutoDJDetails AutoDJAuswahlDetails(const Kartei& k, const std::vector<int32_t>& auswahl);

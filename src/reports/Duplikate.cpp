@@ -151,5 +151,3 @@ std::string TrefferZeile(const Kartei& k, int16_t methode, const DuplikatTreffer
     if (methode <= Suchmethode::OhneId3v1Datei) return "'" + name1 + "' enthält keinen ID3v1-TAG";
     return "'" + name1 + "' enthält keinen ID3v2-TAG";
 }
-
-std::string GefundenAnzahlText(size_t anzahl) { return std::to_string(anzahl) + " Datei(en) gefunden"; }

@@ -1,6 +1,8 @@
 #pragma once
 // Suche nach Mehrfacheinträgen, fehlenden Dateien und Dateien ohne Tag in der Ergebnisliste
 // (frmIndexVerwaltung). Jeder Treffer ist ein Paar von Indexpositionen oder eine einzelne.
+#include "search/ListeErstellen.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -33,5 +35,3 @@ std::vector<DuplikatTreffer> DuplikateSuchen(Kartei& k, int16_t methode, const s
 
 // Die Zeile eines Treffers in lstEinträge, mit den Dateinamen ohne Ordner.
 std::string TrefferZeile(const Kartei& k, int16_t methode, const DuplikatTreffer& t);
-// lblGefundenAnzahl: "N Datei(en) gefunden".
-std::string GefundenAnzahlText(size_t anzahl);

@@ -61,7 +61,7 @@ int32_t ZeilenFüllen(Kartei& k, Ergebnisliste& liste, bool aufsteigend) {
 }  // namespace
 
 std::string DateiAnzahlText(int32_t zeilen, int32_t dateiAnzahl) {
-    return std::to_string(zeilen) + " Datei(en) gefunden\n" + std::to_string(dateiAnzahl) + " Datei(en) im Index";
+    return GefundenAnzahlText(static_cast<size_t>(zeilen)) + "\n" + std::to_string(dateiAnzahl) + " Datei(en) im Index";
 }
 
 void ListeErstellen(Kartei& k, Ergebnisliste& Liste, bool AnzahlZeigen) {
@@ -102,3 +102,5 @@ int32_t ListeErstellenAktualisieren(Ergebnisliste& Liste, const std::vector<int3
     KK_TRACE("ListeErstellenAktualisieren", std::to_string(anzahl) + " Felder aktualisiert");
     return anzahl;
 }
+
+std::string GefundenAnzahlText(size_t anzahl) { return std::to_string(anzahl) + " Datei(en) gefunden"; }

@@ -2,6 +2,7 @@
 // Die Ergebnisliste nach einer Suche: Zeilen für die markierten Einträge, in aufsteigender
 // Reihenfolge der Eintragsnummern. Zeilen werden wiederverwendet, gewählte Einträge bleiben
 // gewählt, solange sie im Ergebnis sind.
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -18,5 +19,7 @@ void ListeErstellen(Kartei& k, Ergebnisliste& Liste, bool AnzahlZeigen);
 int32_t ListeErstellenAktualisieren(Ergebnisliste& Liste, const std::vector<int32_t>& einträge);
 // AusgewählteDateien/AusgewählteZeilen/AusgewähltAnzahl aus den gewählten Zeilen der Liste.
 void AuswahlAktualisieren(Kartei& k, const Ergebnisliste& Liste);
+// lblGefundenAnzahl: "N Datei(en) gefunden" (Hauptliste, Duplikate, AutoDJ).
+std::string GefundenAnzahlText(size_t anzahl);
 // "n Datei(en) gefunden", Zeilenumbruch, "m Datei(en) im Index".
 std::string DateiAnzahlText(int32_t zeilen, int32_t dateiAnzahl);

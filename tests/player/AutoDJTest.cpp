@@ -57,7 +57,7 @@ TEST(AutoDJ, DurchgerechnetesBeispiel) {
     EXPECT_EQ(zeilen[0].eintrag, 2);
     EXPECT_EQ(zeilen[0].text, "Band B - Lied B");
     EXPECT_EQ(zeilen[1].text, "Band A - Lied A");
-    EXPECT_EQ(AutoDJGefundenText(zeilen.size()), "2 Datei(en) gefunden");
+    EXPECT_EQ(GefundenAnzahlText(zeilen.size()), "2 Datei(en) gefunden");
     EXPECT_TRUE(u.ui.meldungen.empty());
     // Bei jedem anderen Zufall bleiben es B und A, in welcher Folge auch immer.
     for (double r : {0.0, 0.3, 0.7, 0.99}) {
@@ -95,7 +95,7 @@ TEST(AutoDJ, ZeitfensterUndUngültigesDatum) {
     o.txtZeit = "1";
     o.cboZeiteinheit = 2;  // Tage: alle heute gespielt, alle fallen weg
     ASSERT_TRUE(AutoDJErstellen(u.k, o, zeilen));
-    EXPECT_EQ(AutoDJGefundenText(zeilen.size()), "0 Datei(en) gefunden");
+    EXPECT_EQ(GefundenAnzahlText(zeilen.size()), "0 Datei(en) gefunden");
     o.cboZeiteinheit = 1;  // Stunden: nur c liegt mehr als eine zurück
     ASSERT_TRUE(AutoDJErstellen(u.k, o, zeilen));
     EXPECT_EQ(Nummern(zeilen), (std::vector<int32_t>{3}));

@@ -184,7 +184,7 @@ void frmAutoDJ::cmdErstellen_Click() {
         auto* eintrag = new QListWidgetItem(Q(z.text), lstGefunden_);
         eintrag->setData(Qt::UserRole, z.eintrag);
     }
-    lblGefundenAnzahl_->setText(Q(AutoDJGefundenText(zeilen.size())));
+    lblGefundenAnzahl_->setText(Q(GefundenAnzahlText(zeilen.size())));
     lstGefunden_Click();
     SeiteZeigen(true);
 }
