@@ -17,8 +17,8 @@ inline QPushButton* Knopf(QWidget* eltern, const char* name, const char* text) {
 }
 
 // Rechtsbündig OK (Vorgabe) und Abbrechen; Abbrechen verwirft den Dialog. ok erhält den Knopf.
-inline QHBoxLayout* OkAbbrechenLeiste(QDialog* dialog, QPushButton*& ok) {
-    ok = Knopf(dialog, "cmdOk", "OK");
+inline QHBoxLayout* OkAbbrechenLeiste(QDialog* dialog, QPushButton*& ok, const char* okText = "OK") {
+    ok = Knopf(dialog, "cmdOk", okText);
     ok->setDefault(true);
     auto* abbrechen = Knopf(dialog, "cmdAbbrechen", "Abbrechen");
     QObject::connect(abbrechen, &QPushButton::clicked, dialog, &QDialog::reject);

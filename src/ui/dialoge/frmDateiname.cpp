@@ -15,20 +15,14 @@ frmDateiname::frmDateiname(QWidget* besitzer, const std::string& titel, const st
     setWindowTitle(Q(titel));
     txtDateiname_ = Benannt(new QLineEdit(Q(text), this), "txtDateiname");
     txtDateiname_->setMinimumWidth(520);
-    auto* cmdOk = Knopf(this, "cmdOk", knopf.c_str());
-    cmdOk->setDefault(true);
-    auto* cmdAbbrechen = Knopf(this, "cmdAbbrechen", "Abbrechen");
-    auto* knöpfe = new QHBoxLayout;
-    knöpfe->addStretch();
-    knöpfe->addWidget(cmdOk);
-    knöpfe->addWidget(cmdAbbrechen);
+    QPushButton* cmdOk = nullptr;
+    auto* knöpfe = OkAbbrechenLeiste(this, cmdOk, knopf.c_str());
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(txtDateiname_);
     layout->addLayout(knöpfe);
     if (auswahlLänge > 0) txtDateiname_->setSelection(auswahlStart - 1, auswahlLänge);
     else txtDateiname_->deselect();
     connect(cmdOk, &QPushButton::clicked, this, &QDialog::accept);
-    connect(cmdAbbrechen, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 std::string frmDateiname::Text() const { return S(txtDateiname_->text()); }

@@ -78,13 +78,8 @@ frmUmbenennen::frmUmbenennen(QWidget* besitzer, Kartei& k, std::vector<int32_t> 
     txtVariablen->setReadOnly(true);
     static_cast<QFormLayout*>(seiten[0]->layout())->insertRow(1, QStringLiteral("Variablen:"), txtVariablen);
 
-    auto* cmdOk = Knopf(this, "cmdOk", "OK");
-    cmdOk->setDefault(true);
-    auto* cmdAbbrechen = Knopf(this, "cmdAbbrechen", "Abbrechen");
-    auto* knöpfe = new QHBoxLayout;
-    knöpfe->addStretch();
-    knöpfe->addWidget(cmdOk);
-    knöpfe->addWidget(cmdAbbrechen);
+    QPushButton* cmdOk = nullptr;
+    auto* knöpfe = OkAbbrechenLeiste(this, cmdOk);
     auto* mitte = new QHBoxLayout;
     mitte->addWidget(lstFunktionen_);
     mitte->addWidget(fraOptionen_, 1);
@@ -95,7 +90,6 @@ frmUmbenennen::frmUmbenennen(QWidget* besitzer, Kartei& k, std::vector<int32_t> 
     EingabenSetzen(UmbenennenZuletzt(k_));
     connect(lstFunktionen_, &QListWidget::itemSelectionChanged, this, &frmUmbenennen::lstFunktionen_Click);
     connect(cmdOk, &QPushButton::clicked, this, &frmUmbenennen::cmdOk_Click);
-    connect(cmdAbbrechen, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 QWidget* frmUmbenennen::SeiteFeld(int32_t position, const std::vector<std::pair<const char*, QLineEdit*>>& felder,

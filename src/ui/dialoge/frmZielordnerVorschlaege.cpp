@@ -21,20 +21,14 @@ frmZielordnerVorschläge::frmZielordnerVorschläge(QWidget* besitzer, Oberfläch
         lstOrdner_->item(i)->setData(Qt::UserRole, QByteArray::fromStdString(ordner[size_t(i)]));
     if (lstOrdner_->count() > 0) lstOrdner_->setCurrentRow(0);
     lstOrdner_->setMinimumSize(480, 200);
-    auto* cmdOk = Knopf(this, "cmdOk", "OK");
-    cmdOk->setDefault(true);
-    auto* cmdAbbrechen = Knopf(this, "cmdAbbrechen", "Abbrechen");
-    auto* knöpfe = new QHBoxLayout;
-    knöpfe->addStretch();
-    knöpfe->addWidget(cmdOk);
-    knöpfe->addWidget(cmdAbbrechen);
+    QPushButton* cmdOk = nullptr;
+    auto* knöpfe = OkAbbrechenLeiste(this, cmdOk);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new QLabel(QStringLiteral("Vorgeschlagene Zielordner:"), this));
     layout->addWidget(lstOrdner_, 1);
     layout->addLayout(knöpfe);
     connect(cmdOk, &QPushButton::clicked, this, &frmZielordnerVorschläge::cmdOk_Click);
     connect(lstOrdner_, &QListWidget::itemDoubleClicked, this, &frmZielordnerVorschläge::cmdOk_Click);
-    connect(cmdAbbrechen, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 void frmZielordnerVorschläge::cmdOk_Click() {
