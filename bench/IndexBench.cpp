@@ -1,11 +1,13 @@
-// Laden und Speichern großer Indexdateien. Zusätzlich zwei Aufrufe für die Speichermessung in
+// Laden und Speichern großer Indexdateien. Zusätzlich drei Aufrufe für die Speichermessung in
 // einem frischen Prozess:
 //   kk_bench_index --erzeugen PFAD ANZAHL   schreibt einen erfundenen Index
 //   kk_bench_index --laden PFAD             lädt ihn und nennt den höchsten Speicherbedarf (RSS)
+//   kk_bench_index --rundreise PFAD ZIEL    lädt, speichert nach ZIEL und vergleicht die Bytes
 #include "app/Kartei.h"
 #include "index/IndexDatei.h"
 #include "support/Attrappen.h"
 #include "support/IndexGenerator.h"
+#include "support/TestOrdner.h"
 
 #include <benchmark/benchmark.h>
 
@@ -77,21 +79,34 @@ BENCHMARK(BM_Laden)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond)
 BENCHMARK(BM_Speichern)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(BM_SpeichernMitFortschritt)->Arg(100'000)->Unit(benchmark::kMillisecond)->UseRealTime();
 
+// Laden und wieder Speichern muss dieselben Bytes ergeben.
+int Rundreise(const std::string& pfad, const std::string& ziel) {
+    TestUmgebung u;
+    u.k.E.StartBildschirm = 0;
+    if (!DateiLaden(u.k, pfad) || !DateiSpeichern(u.k, ziel, false)) return 1;
+    const bool gleich = DateiLesen(pfad) == DateiLesen(ziel);
+    std::printf("Einträge=%d\nGleicheBytes=%d\n", u.k.DateiAnzahl, gleich ? 1 : 0);
+    return gleich ? 0 : 1;
+}
+
 int Speichermessung(int argc, char** argv) {
     if (argc == 4 && std::strcmp(argv[1], "--erzeugen") == 0) return Erzeugen(argv[2], std::atoi(argv[3])) ? 0 : 1;
+    if (argc == 4 && std::strcmp(argv[1], "--rundreise") == 0) return Rundreise(argv[2], argv[3]);
     const long vorher = HöchsterSpeicherKb();
     TestUmgebung u;
     const auto start = std::chrono::steady_clock::now();
     const bool gut = DateiLaden(u.k, argv[2]);
     const double sekunden = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    std::printf("Einträge=%d\nSekunden=%.3f\nRSSVorherMB=%.1f\nRSSHöchstensMB=%.1f\n", u.k.DateiAnzahl, sekunden,
-                double(vorher) / 1024, double(HöchsterSpeicherKb()) / 1024);
+    std::printf("Einträge=%d\nSekunden=%.3f\nRSSVorherMB=%.1f\nRSSHöchstensMB=%.1f\nTextspeicherMB=%.1f\n",
+                u.k.DateiAnzahl, sekunden, double(vorher) / 1024, double(HöchsterSpeicherKb()) / 1024,
+                double(KTextSpeicherBytes()) / (1024 * 1024));
     return gut ? 0 : 1;
 }
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc >= 3 && (std::strcmp(argv[1], "--erzeugen") == 0 || std::strcmp(argv[1], "--laden") == 0))
+    if (argc >= 3 && (std::strcmp(argv[1], "--erzeugen") == 0 || std::strcmp(argv[1], "--laden") == 0 ||
+                      std::strcmp(argv[1], "--rundreise") == 0))
         return Speichermessung(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

@@ -74,7 +74,13 @@ FuzzKartei::FuzzKartei(Registrierung* registrierung) : teile_(std::make_unique<D
     kartei_ = std::make_unique<Kartei>(Dienste{t.ui, r, t.spieler, t.shell, t.datenträger, t.uhr, t.zufall});
 }
 
-FuzzKartei::~FuzzKartei() = default;
+// Die Texte eines Laufs brauchen danach niemanden mehr; ohne Freigeben wüchse der Textspeicher
+// über Millionen Läufe.
+FuzzKartei::~FuzzKartei() {
+    kartei_.reset();
+    teile_.reset();
+    KTextSpeicherZurücksetzen();
+}
 
 SpeicherDatei::SpeicherDatei() {
     fd_ = ::memfd_create("kk-fuzz", MFD_CLOEXEC);

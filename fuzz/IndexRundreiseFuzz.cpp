@@ -63,5 +63,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* daten, size_t größe) {
     const std::string einmal = Schreiben(k, erste);
     Einlesen(k, erste.Pfad());
     if (Schreiben(k, zweite) != einmal) std::abort();  // Laden und Speichern verlören etwas
+    // Die Tabelle leeren und ihre Texte freigeben, sonst wüchse der Textspeicher mit jedem Lauf.
+    IndexGrößeÄndern(k, kHöchstensEinträge, false);
+    KTextSpeicherZurücksetzen();
     return 0;
 }

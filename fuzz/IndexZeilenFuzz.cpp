@@ -17,12 +17,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* daten, size_t größe) {
     while (leser.ZeileCrLf(zeile)) {
         if (zeile.starts_with("#TAG:")) {
             if (!GrößenlisteLesen(zeile, größen)) continue;
-            std::string pfad;
+            KText pfad;
             DateiInfo d;
             DatensatzFelderLesen(zeile, größen, pfad, d);
         } else if (zeile.starts_with("#OPT:")) {
             OptionZeileLesen(optionen, zeile);
         }
     }
+    KTextSpeicherZurücksetzen();  // kein Text dieses Laufs lebt noch
     return 0;
 }

@@ -21,14 +21,14 @@ enum class FeldTyp : uint8_t { Text, Long, Integer, Byte, Wahrheit };
 struct FeldZeiger {
     FeldTyp typ;
     union {
-        std::string DateiInfo::*text;
+        KText DateiInfo::*text;
         int32_t DateiInfo::*long32;
         int16_t DateiInfo::*integer;
         uint8_t DateiInfo::*byte;
         bool DateiInfo::*wahrheit;
     };
 };
-constexpr FeldZeiger ZeigerAuf(std::string DateiInfo::*m) { return {.typ = FeldTyp::Text, .text = m}; }
+constexpr FeldZeiger ZeigerAuf(KText DateiInfo::*m) { return {.typ = FeldTyp::Text, .text = m}; }
 constexpr FeldZeiger ZeigerAuf(int32_t DateiInfo::*m) { return {.typ = FeldTyp::Long, .long32 = m}; }
 constexpr FeldZeiger ZeigerAuf(int16_t DateiInfo::*m) { return {.typ = FeldTyp::Integer, .integer = m}; }
 constexpr FeldZeiger ZeigerAuf(uint8_t DateiInfo::*m) { return {.typ = FeldTyp::Byte, .byte = m}; }
@@ -45,8 +45,8 @@ struct DateiFeld {
     std::string_view spaltenName;  // deren Name
 
     // Der Text eines Feldes der Formen Text, Datum und Genre.
-    std::string& Text(DateiInfo& d) const { return d.*zeiger.text; }
-    const std::string& Text(const DateiInfo& d) const { return d.*zeiger.text; }
+    KText& Text(DateiInfo& d) const { return d.*zeiger.text; }
+    const KText& Text(const DateiInfo& d) const { return d.*zeiger.text; }
     // Der Wert eines Feldes der Formen Zahl und Wahrheit (wahr = 1).
     int32_t Zahl(const DateiInfo& d) const;
     // Setzt ihn; false, wenn er nicht in den Typ passt (das Feld bleibt dann).
@@ -117,7 +117,7 @@ inline constexpr DateiFeld DateiFeldTabelle[] = {
 inline constexpr int32_t DateiFeldAnzahl = sizeof DateiFeldTabelle / sizeof DateiFeldTabelle[0];
 
 // Die Zeile eines Mitglieds (auch zur Übersetzungszeit: Listen, die auf die Tabelle zeigen).
-constexpr const DateiFeld& DateiFeldVon(std::string DateiInfo::*mitglied) {
+constexpr const DateiFeld& DateiFeldVon(KText DateiInfo::*mitglied) {
     for (const DateiFeld& f : DateiFeldTabelle)
         if (f.zeiger.typ == FeldTyp::Text && f.zeiger.text == mitglied) return f;
     return DateiFeldTabelle[DateiFeldAnzahl - 1];  // unerreichbar für ein Textfeld von DateiInfo

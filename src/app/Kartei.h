@@ -44,7 +44,7 @@ struct Kartei {
     Kartei& operator=(const Kartei&) = delete;
 
     // Die Tabelle: drei parallele Felder ab 1, immer mit gleicher Obergrenze.
-    EinsBasiert<std::string> DateiPfade;
+    EinsBasiert<KText> DateiPfade;  // Bytes des Dateisystems, kein UTF-8 nötig
     EinsBasiert<DateiInfo> DateiDaten;
     EinsBasiert<int16_t> DateiTreffer;
     int32_t DateiAnzahl = 0;

@@ -39,7 +39,7 @@ std::vector<std::string> Begriffe(const Kartei& k, int32_t erste) {
     std::vector<std::string> begriffe;
     if (d.Mp3_ID3v1_Status == 1) {
         // Mit Tag zählt nur der Tag, auch wenn beide Felder leer sind.
-        for (const std::string* feld : {&d.Mp3_ID3v1_Interpret, &d.Mp3_ID3v1_Album})
+        for (const KText* feld : {&d.Mp3_ID3v1_Interpret, &d.Mp3_ID3v1_Album})
             if (!feld->empty()) begriffe.push_back(*feld);
         return begriffe;
     }
@@ -72,7 +72,7 @@ KopierenErgebnis DateienKopieren(Kartei& k, const std::vector<int32_t>& einträg
             ++e.übersprungen;
             continue;
         }
-        const std::string quelle = verfügbar == 2 ? std::string() : k.DateiPfade[position];
+        const std::string quelle = verfügbar == 2 ? std::string() : k.DateiPfade[position].str();
         if (verfügbar == 2 || !FortschrittZeigen(k, i, DateinameAusPfad(quelle))) {
             e.abgebrochen = true;
             break;

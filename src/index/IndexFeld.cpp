@@ -57,15 +57,15 @@ int16_t Art(K kennung) {
 }
 
 // Der Text des Feldes, das die Spalte zeigt (Interpret, Titel, … und ihre ID3v2-Gegenstücke).
-const std::string& SpaltenText(const DateiInfo& d, K kennung) {
+const KText& SpaltenText(const DateiInfo& d, K kennung) {
     return DateiFeldFürSpalte(static_cast<int32_t>(kennung))->Text(d);
 }
 
 void Standardsuche(std::string& e, const DateiInfo& d, const std::string& pfad) {
     e.clear();
-    for (const std::string* teil :
+    for (const KText* teil :
          {&d.Mp3_ID3v2_TPE1, &d.Mp3_ID3v2_TIT2, &d.Mp3_ID3v1_Interpret, &d.Mp3_ID3v1_Titel, &d.Mp3_ID3v1_Album})
-        e.append(*teil).push_back(' ');
+        e.append(teil->sicht()).push_back(' ');
     PfadTextAnhängen(e, pfad);
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+class KText;
 struct DateiInfo;
 struct IndexOptionen;
 
@@ -25,6 +26,6 @@ struct Größenliste {
 // weniger als zwei Felder).
 bool GrößenlisteLesen(std::string_view zeile, Größenliste& g);
 // Legt die Werte der Zeile in pfad und d ab; ungültige Zahlen und Daten lassen die Vorgabe stehen.
-void DatensatzFelderLesen(std::string_view zeile, const Größenliste& g, std::string& pfad, DateiInfo& d);
+void DatensatzFelderLesen(std::string_view zeile, const Größenliste& g, KText& pfad, DateiInfo& d);
 // Eine Zeile "#OPT:…"; was nicht passt, wird still übergangen.
 void OptionZeileLesen(IndexOptionen& o, std::string_view zeile);

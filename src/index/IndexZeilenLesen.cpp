@@ -18,14 +18,14 @@ template <typename T> void GanzzahlFeld(T& ziel, std::string_view wert) {
 }
 
 // utf8: der Wert ist schon als gültiges UTF-8 bekannt (die Prüfung lief einmal für die ganze Zeile).
-void TextSetzen(std::string& ziel, std::string_view wert, bool utf8) {
+void TextSetzen(KText& ziel, std::string_view wert, bool utf8) {
     if (utf8) ziel.assign(wert);
     else ziel = DateiTextLesen(wert);
 }
 
 bool IstFolgebyte(char z) { return (static_cast<unsigned char>(z) & 0xC0) == 0x80; }
 
-void FeldLesen(int32_t feld, std::string_view wert, bool utf8, std::string& pfad, DateiInfo& d) {
+void FeldLesen(int32_t feld, std::string_view wert, bool utf8, KText& pfad, DateiInfo& d) {
     if (feld >= 2 && feld <= 8) d.Mp3_ID3v1_Status = 1;
     if (feld >= 21) d.Mp3_ID3v2_Status = 1;
     if (feld == 1) {
@@ -148,7 +148,7 @@ bool GrößenlisteLesen(std::string_view zeile, Größenliste& g) {
     return feld >= 2;
 }
 
-void DatensatzFelderLesen(std::string_view zeile, const Größenliste& g, std::string& pfad, DateiInfo& d) {
+void DatensatzFelderLesen(std::string_view zeile, const Größenliste& g, KText& pfad, DateiInfo& d) {
     size_t pos = g.werteAnfang;
     // Ist die ganze Zeile gültiges UTF-8, ist es jedes Feld, das an Zeichengrenzen beginnt und endet.
     const bool zeileUtf8 = pos <= zeile.size() && IstGültigesUtf8(zeile.substr(pos));

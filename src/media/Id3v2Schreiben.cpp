@@ -66,7 +66,7 @@ std::string NeuerRahmen(const std::string& id, const std::string& text, const Be
 }
 
 struct FeldRahmen {
-    std::string DateiInfo::*feld;
+    KText DateiInfo::*feld;
     bool immer;
     std::string Id() const { return std::string(DateiFeldVon(feld).rahmen23); }
 };

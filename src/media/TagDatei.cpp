@@ -198,7 +198,7 @@ int32_t ListenEintrag(const Kartei& k, int32_t position) {
 }
 
 std::string EintragPfad(const Kartei& k, int32_t eintrag) {
-    return k.DateiPfade.GültigerIndex(eintrag) ? k.DateiPfade[eintrag] : std::string();
+    return k.DateiPfade.GültigerIndex(eintrag) ? k.DateiPfade[eintrag].str() : std::string();
 }
 
 bool TagEntfernenErgebnisMelden(Kartei& k, const char* version, const std::string& dateiname,

@@ -217,7 +217,7 @@ AutoDJDetails AutoDJAuswahlDetails(const Kartei& k, const std::vector<int32_t>& 
         Datum gespielt;
         const std::string datum = DatumLesen(info.Datei_AngefordertGespieltAm, gespielt)
                                       ? DatumZeitText(gespielt)
-                                      : info.Datei_AngefordertGespieltAm;
+                                      : info.Datei_AngefordertGespieltAm.str();
         d.lblStatistik =
             "Zuletzt gespielt am " + datum + ", insgesamt " + std::to_string(info.Datei_AngefordertAnzahl) + " Mal";
     }

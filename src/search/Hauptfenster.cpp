@@ -13,8 +13,8 @@ int32_t Eintrag(const Kartei& k, const EinsBasiert<int32_t>& ausgewählt, int32_
     return n >= 1 && n <= k.DateiAnzahl && k.DateiPfade.GültigerIndex(n) && k.DateiDaten.GültigerIndex(n) ? n : 0;
 }
 
-const std::string& Pfad(const Kartei& k, int32_t eintrag) {
-    static const std::string leer;
+const KText& Pfad(const Kartei& k, int32_t eintrag) {
+    static const KText leer;
     return eintrag > 0 ? k.DateiPfade[eintrag] : leer;
 }
 
@@ -146,5 +146,5 @@ SongSucheZiel SongSucheNachNamen(const std::string& spielenderTitel) {
 
 std::string ZwischenablagePfad(const Kartei& k, const EinsBasiert<int32_t>& AusgewählteDateien,
                                int32_t AusgewähltAnzahl) {
-    return AusgewähltAnzahl == 1 ? Pfad(k, Eintrag(k, AusgewählteDateien, 1)) : std::string();
+    return AusgewähltAnzahl == 1 ? Pfad(k, Eintrag(k, AusgewählteDateien, 1)).str() : std::string();
 }

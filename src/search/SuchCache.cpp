@@ -28,9 +28,10 @@ void StrukturVorladen(const Kartei& k, int32_t i) {
 }
 void TexteVorladen(const Kartei& k, int32_t i) {
     const DateiInfo& d = k.DateiDaten[i];
-    for (const std::string* t : {&d.Mp3_ID3v2_TPE1, &d.Mp3_ID3v2_TIT2, &d.Mp3_ID3v1_Interpret, &d.Mp3_ID3v1_Titel,
-                                 &d.Mp3_ID3v1_Album, &k.DateiPfade[i]})
+    for (const KText* t :
+         {&d.Mp3_ID3v2_TPE1, &d.Mp3_ID3v2_TIT2, &d.Mp3_ID3v1_Interpret, &d.Mp3_ID3v1_Titel, &d.Mp3_ID3v1_Album})
         __builtin_prefetch(t->data());
+    __builtin_prefetch(k.DateiPfade[i].data());
 }
 
 uint64_t Mischen(uint64_t h, uint64_t w) {

@@ -24,8 +24,8 @@ bool V2(int16_t modus) { return modus == AutoTagModusBeide || modus == AutoTagMo
 
 struct FeldPaar {
     std::string_view platzhalter;
-    std::string DateiInfo::*v1;
-    std::string DateiInfo::*v2;
+    KText DateiInfo::*v1;
+    KText DateiInfo::*v2;
 };
 constexpr std::array<FeldPaar, 7> FeldPaare = {{
     {"%titel%", &DateiInfo::Mp3_ID3v1_Titel, &DateiInfo::Mp3_ID3v2_TIT2},

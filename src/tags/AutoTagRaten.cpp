@@ -66,7 +66,7 @@ std::vector<ErsterKandidat> KandidatenSuchen(const Kartei& k, const std::string&
 // Ab dem ersten Kandidaten einen suchen, der zum schon erkannten anderen Feld passt: dessen Feld
 // leer oder mit dem erkannten Text beginnend.
 bool PassenderKandidat(const Kartei& k, const std::string& dateiname, int32_t ab, const std::string& wort,
-                       std::string DateiInfo::*feld, std::string DateiInfo::*anderes, const std::string& erkannt,
+                       KText DateiInfo::*feld, KText DateiInfo::*anderes, const std::string& erkannt,
                        [[maybe_unused]] const char* ablehnung) {
     for (int32_t n = ab; n >= 1 && n <= k.DateiAnzahl; ++n) {
         const DateiInfo& d = k.DateiDaten[n];

@@ -43,7 +43,7 @@ struct TagEditorTextfeld {
     const char* name;
     const char* beschriftung;
     std::string TagEditorAnsicht::*steuer;
-    std::string DateiInfo::*feld;
+    KText DateiInfo::*feld;
 };
 // Die ID3v1-Textfelder (ohne Genre) und die ID3v2-Textfelder (ohne Genre), in Anzeigereihenfolge.
 const std::vector<TagEditorTextfeld>& TagEditorV1Felder();

@@ -11,7 +11,7 @@
 #include <utility>
 
 namespace {
-using Feld = std::string DateiInfo::*;
+using Feld = KText DateiInfo::*;
 
 // Die Felder eines Tags, in denen Text steht, den Tausch und Schreibweise betreffen.
 struct TagFelder {

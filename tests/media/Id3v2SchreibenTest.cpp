@@ -56,7 +56,7 @@ TEST(Id3v2Schreiben, KoepfeUndRahmenfolge) {
     DateiInfo d;
     const struct {
         const char* id;
-        std::string DateiInfo::*feld;
+        KText DateiInfo::*feld;
     } liste[] = {{"PCNT", &DateiInfo::Mp3_ID3v2_PCNT}, {"TRCK", &DateiInfo::Mp3_ID3v2_TRCK},
                  {"TENC", &DateiInfo::Mp3_ID3v2_TENC}, {"WXXX", &DateiInfo::Mp3_ID3v2_WXXX},
                  {"TCOP", &DateiInfo::Mp3_ID3v2_TCOP}, {"TOPE", &DateiInfo::Mp3_ID3v2_TOPE},

@@ -195,7 +195,7 @@ TEST(Sortieren, EinEintragUndUmdrehenÜberDieObergrenze) {
     SortierungUmkehrenPrüfen(v.k, "Interpret");
     EXPECT_EQ(v.k.DateiPfade.UBound(), 5);
     EXPECT_EQ(v.k.DateiTreffer.UBound(), 5);
-    EXPECT_EQ(v.k.DateiPfade.Vektor(), (std::vector<std::string>{"", "", "/m/c.mp3", "/m/b.mp3", "/m/a.mp3"}));
+    EXPECT_EQ(v.k.DateiPfade.Vektor(), (std::vector<KText>{"", "", "/m/c.mp3", "/m/b.mp3", "/m/a.mp3"}));
     EXPECT_EQ(v.k.DateiDaten[3].Mp3_ID3v1_Interpret, "c");
     EXPECT_EQ(v.k.Suche.SortierUmkehren, 0);
 }

@@ -128,7 +128,9 @@ void IndexErzeugen(Kartei& k, int32_t anzahl, uint32_t saat) {
     std::mt19937 zufall(saat);
     IndexGrößeÄndern(k, anzahl, false);
     for (int32_t i = 1; i <= anzahl; ++i) {
-        k.DateiDaten[i] = ErfundenerEintrag(zufall, k.DateiPfade[i]);
+        std::string pfad;
+        k.DateiDaten[i] = ErfundenerEintrag(zufall, pfad);
+        k.DateiPfade[i] = pfad;
         k.DateiTreffer[i] = 1;
     }
     k.DateiAnzahl = anzahl;
