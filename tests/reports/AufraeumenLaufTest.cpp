@@ -73,9 +73,9 @@ TEST(AufräumenLauf, AlleSechsSchritteAufEchtenDateien) {
     ASSERT_FALSE(l.u.ui.fortschritte.empty());
     EXPECT_EQ(l.u.ui.fortschritte[0].vorgang, "Vorgänge werden ausgeführt");
     EXPECT_TRUE(l.u.ui.fortschritte[1].abbrechenSichtbar);
-    EXPECT_EQ(l.Schritte(), (std::vector<std::string>{"Dateien prüfen", "Dateien löschen",
-                                                       "Dateien in Papierkorb verschieben", "Dateien ersetzen",
-                                                       "Index anpassen"}));
+    EXPECT_EQ(l.Schritte(),
+              (std::vector<std::string>{"Dateien prüfen", "Dateien löschen", "Dateien in Papierkorb verschieben",
+                                        "Dateien ersetzen", "Index anpassen"}));
     EXPECT_FALSE(l.u.ui.fortschritte.back().offen);
     EXPECT_EQ(l.u.ui.titelTexte.back(), "Der Index wurde aufgeräumt");
 }
