@@ -12,6 +12,8 @@
 #include <QListWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 QLabel* Feld(QWidget* eltern, const char* name) {
     auto* l = Benannt(new QLabel(eltern), name);
@@ -36,6 +38,12 @@ frmIndexVerwaltung::frmIndexVerwaltung(QWidget* besitzer, Kartei& k, std::vector
     cboSuchmethode_->setObjectName(QStringLiteral("cboSuchmethode"));
     for (const auto& t : SuchmethodenTexte()) cboSuchmethode_->addItem(Q(t));
     cboSuchmethode_->setCurrentIndex(-1);
+    // Ohne Wahl stünde ein leeres Feld da; die Breite folgt dem längsten Listentext.
+    cboSuchmethode_->setPlaceholderText(QStringLiteral("Suchmethode wählen"));
+    int breite = 0;
+    for (int i = 0; i < cboSuchmethode_->count(); ++i)
+        breite = std::max(breite, cboSuchmethode_->fontMetrics().horizontalAdvance(cboSuchmethode_->itemText(i)));
+    cboSuchmethode_->setMinimumWidth(breite + 40);
     cmdSuchen_ = Knopf(this, "cmdSuchen", "&Suchen");
     cmdSuchen_->setEnabled(false);
     lstEinträge_ = new QListWidget(this);
