@@ -8,6 +8,7 @@
 #include "reports/Export.h"
 #include "support/TestOrdner.h"
 #include "ui/dialoge/frmExportieren.h"
+#include "ui/dialoge/BerichteZeigen.h"
 #include "ui/dialoge/frmIndexVerwaltung.h"
 #include "ui/dialoge/frmStatistik.h"
 
@@ -39,6 +40,7 @@ private slots:
     void ExportierenPrueftUndSchreibt();
     void IndexVerwaltungAktionJeDatei();
     void IndexVerwaltungFuehrtAktionenAus();
+    void IndexVerwaltungBesitztFortschrittUndFragen();
 };
 
 void BerichteFensterTest::StatistikZeigtVierZeilen() {
@@ -178,6 +180,33 @@ void BerichteFensterTest::IndexVerwaltungFuehrtAktionenAus() {
     QVERIFY(DoesExist(o / "a/lied.mp3"));
     QCOMPARE(u.k.DateiAnzahl, 3);
     QCOMPARE(u.k.DateiPfade[2], o / "a/weg.mp3");
+}
+
+// Über den Befehl des Hauptfensters geöffnet: solange der Dialog modal offen ist, stehen
+// Fortschritt und Meldungen über ihm (auch nach den Infos), danach wieder über dem Besitzer.
+void BerichteFensterTest::IndexVerwaltungBesitztFortschrittUndFragen() {
+    GuiUmgebung u;
+    TestOrdner o;
+    DateiSchreiben(o / "a.mp3", std::string(200, 'x'));
+    Eintrag(u.k, o / "a.mp3").Mp3_ID3v1_Status = 0;
+    u.k.Liste.lstSongs.zeilen.push_back({});
+    u.k.Liste.lstSongs.zeilen.back().eintrag = 1;
+    bool imDialog = false, beiDerSuche = false, nachInfos = false;
+    std::vector<std::string> fenster;
+    u.ui.dialogSkript = [&](QDialog& d) {
+        fenster.push_back(d.objectName().toStdString());
+        if (d.objectName() != QStringLiteral("frmIndexVerwaltung")) return;
+        imDialog = u.ui.SichtbarerBesitzer() == &d;
+        d.findChild<QComboBox*>(QStringLiteral("cboSuchmethode"))->setCurrentIndex(6);
+        Drücken(d, "cmdSuchen");
+        beiDerSuche = u.ui.SichtbarerBesitzer() == &d;
+        Drücken(d, "cmdInfos1");
+        nachInfos = u.ui.SichtbarerBesitzer() == &d;
+    };
+    QVERIFY(!IndexVerwaltungZeigen(nullptr, u.k, u.ui));
+    QCOMPARE(fenster, (std::vector<std::string>{"frmIndexVerwaltung", "frmMp3Tag"}));
+    QVERIFY(imDialog && beiDerSuche && nachInfos);
+    QVERIFY(!u.ui.vordergrund);
 }
 
 int BerichteFensterTestAusführen(int argc, char** argv) {

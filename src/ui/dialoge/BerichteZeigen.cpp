@@ -23,6 +23,15 @@ bool IndexVerwaltungZeigen(QWidget* besitzer, Kartei& k, GuiOberfläche& ui) {
     std::vector<int32_t> liste;
     for (const auto& zeile : k.Liste.lstSongs.zeilen) liste.push_back(zeile.eintrag);
     frmIndexVerwaltung dialog(besitzer, k, std::move(liste));
-    dialog.infosZeigen = [&dialog, &k, &ui](int32_t eintrag) { TagEditorZeigen(&dialog, k, ui, {eintrag}); };
-    return ui.DialogAusführen(dialog) == QDialog::Accepted;
+    // Solange der Dialog modal offen ist, gehören ihm Fortschritt und Meldungen der Suche; sonst
+    // wäre "Abbrechen" des Fortschritts hinter ihm gesperrt.
+    const QPointer<QWidget> vorher = ui.vordergrund;
+    ui.vordergrund = &dialog;
+    dialog.infosZeigen = [&dialog, &k, &ui](int32_t eintrag) {
+        TagEditorZeigen(&dialog, k, ui, {eintrag});
+        ui.vordergrund = &dialog;
+    };
+    const bool ausgeführt = ui.DialogAusführen(dialog) == QDialog::Accepted;
+    ui.vordergrund = vorher;
+    return ausgeführt;
 }
