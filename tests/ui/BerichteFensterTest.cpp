@@ -150,6 +150,12 @@ void BerichteFensterTest::IndexVerwaltungFuehrtAktionenAus() {
     QVERIFY(!f.findChild<QPushButton*>(QStringLiteral("cmdAbspielen2"))->isEnabled());
     QVERIFY(!cboAktion2->isEnabled());
     QCOMPARE(f.findChild<QLabel*>(QStringLiteral("lblGewählt"))->text(), QStringLiteral("1 Dateien gewählt"));
+    // Ohne gewählte Zeile gibt es nichts, dem eine Aktion gelten könnte.
+    QVERIFY(Drücken(f, "cmdWählenKeine"));
+    QCOMPARE(f.findChild<QLabel*>(QStringLiteral("lblGewählt"))->text(), QStringLiteral("0 Dateien gewählt"));
+    QVERIFY(!f.findChild<QComboBox*>(QStringLiteral("cboAktion1"))->isEnabled());
+    QVERIFY(Drücken(f, "cmdWählenAlle"));
+    QVERIFY(f.findChild<QComboBox*>(QStringLiteral("cboAktion1"))->isEnabled());
 
     // Ein Paar: Gleiches im Detailfeld, Infos der rechten Datei, Doppelklick spielt die linke.
     methode->setCurrentIndex(0);

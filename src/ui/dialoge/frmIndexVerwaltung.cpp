@@ -149,9 +149,12 @@ std::vector<int32_t> frmIndexVerwaltung::GewählteZeilen() const {
 }
 
 void frmIndexVerwaltung::lstEinträge_Auswahl() {
-    lblGewählt_->setText(QString::number(GewählteZeilen().size()) + QStringLiteral(" Dateien gewählt"));
+    const size_t gewählt = GewählteZeilen().size();
+    lblGewählt_->setText(QString::number(gewählt) + QStringLiteral(" Dateien gewählt"));
     TrefferDetails d;
     if (!TrefferDetailsLesen(k_, a_, lstEinträge_->currentRow(), d)) return;
+    // Eine Aktion gilt den gewählten Zeilen; ohne Wahl würde die Liste nur scheinbar etwas setzen.
+    cboAktion1_->setEnabled(gewählt > 0);
     lblDatei1_->setText(Q(d.datei1));
     lblDateiname1_->setText(Q(d.dateiname1));
     lblDateiname1_->setToolTip(Q(d.dateiname1));
@@ -160,9 +163,9 @@ void frmIndexVerwaltung::lstEinträge_Auswahl() {
     lblDateiname2_->setText(Q(d.dateiname2));
     lblDateiname2_->setToolTip(Q(d.dateiname2));
     cboAktion2_->setCurrentIndex(d.aktion2);
-    for (QWidget* w :
-         {static_cast<QWidget*>(cboAktion2_), static_cast<QWidget*>(cmdAbspielen2_), static_cast<QWidget*>(cmdInfos2_)})
-        w->setEnabled(d.zweiteSeite);
+    cboAktion2_->setEnabled(d.zweiteSeite && gewählt > 0);
+    cmdAbspielen2_->setEnabled(d.zweiteSeite);
+    cmdInfos2_->setEnabled(d.zweiteSeite);
     lblGleichÜberschrift_->setText(Q(d.gleichÜberschrift));
     lblGleich_->setText(Q(d.gleich));
     fraDetails_->show();
