@@ -194,7 +194,11 @@ void frmMain::cmdBeenden_Click() { close(); }
 
 void frmMain::cmdIndexStatistik_Click() { IndexStatistikZeigen(this, k_); }
 
-void frmMain::cmdIndexVerwaltung_Click() { IndexVerwaltungZeigen(this, k_); }
+// Auch ohne OK: im Tag-Editor der Infos kann sich schon etwas geändert haben.
+void frmMain::cmdIndexVerwaltung_Click() {
+    IndexVerwaltungZeigen(this, k_, ui_);
+    SucheNachlauf();
+}
 
 void frmMain::cmdExportieren_Click() {
     AuswahlAktualisieren();
