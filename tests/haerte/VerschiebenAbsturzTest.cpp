@@ -55,7 +55,8 @@ TEST(Absturz, VerschiebenIstAltOderNeu) {
         return DateiSpeichern(u.k, o / "i.kkt", false);
     };
     const auto zwischen = [](const std::string& s) { return s.ends_with("|nachzuholen"); };
-    const AbsturzBericht b = AbsturzProben(umbenennen, [&] { return Stand(o, inhalt); }, 100, 21, zwischen);
+    const AbsturzBericht b = AbsturzProben(
+        umbenennen, [&] { return Stand(o, inhalt); }, 100, 21, zwischen);
     std::string fehler;
     for (const auto& f : b.fehler) fehler += f + "\n";
     EXPECT_EQ(fehler, "");
