@@ -1,7 +1,9 @@
 // Berichte über einem erfundenen Index mit 100.000 Einträgen: Mehrfacheinträge nach Dateinamen
-// (mit offener Fortschrittsanzeige, wie im Fenster) und der HTML-Export in eine Datei.
+// (mit offener Fortschrittsanzeige, wie im Fenster), der HTML-Export in eine Datei und das
+// Aufräumen, das jeden zweiten Eintrag nur aus dem Index nimmt.
 #include "app/Ergebnisliste.h"
 #include "app/Kartei.h"
+#include "reports/Aufraeumen.h"
 #include "reports/Duplikate.h"
 #include "reports/Export.h"
 #include "support/Attrappen.h"
@@ -55,8 +57,24 @@ void BM_ExportHtml(benchmark::State& state) {
     std::remove(datei.c_str());
     state.SetItemsProcessed(int64_t(state.iterations()) * state.range(0));
 }
+
+// Sechs Schritte ohne Dateizugriff: Listen bilden, Index in einem Durchgang anpassen, neu suchen.
+void BM_AufräumenNurIndex(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        TestUmgebung u;
+        IndexErzeugen(u.k, int32_t(state.range(0)), 1);
+        Aufräumen a;
+        AufräumenBeginnen(u.k, a, Suchmethode::OhneId3v1Index, {});
+        for (size_t p = 1; p < a.GefundenAktionen.size(); p += 2) a.GefundenAktionen[p] = Aktion::AusIndex;
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(AktionenAusführen(u.k, a));
+    }
+    state.SetItemsProcessed(int64_t(state.iterations()) * state.range(0));
+}
 }  // namespace
 
+BENCHMARK(BM_AufräumenNurIndex)->Arg(100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_DuplikateDateiname)->Arg(100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_ExportHtml)->Arg(100000)->Unit(benchmark::kMillisecond);
 BENCHMARK_MAIN();

@@ -6,6 +6,7 @@
 #include "index/Spalten.h"
 #include "shell/Fortschritt.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <charconv>
@@ -82,7 +83,10 @@ void DatensatzZeile(std::string& aus, const std::string& pfad, const DateiInfo& 
 // Schreibt über einen großen Puffer in die offene temporäre Datei; merkt sich den ersten Fehler.
 class Schreiber {
 public:
-    explicit Schreiber(int fd) : fd_(fd) { puffer_.reserve(kPufferGröße + 64 * 1024); }
+    // Der Puffer nur so groß wie nötig: kleine Indexe holen sich keine 4 MB.
+    Schreiber(int fd, int32_t einträge) : fd_(fd) {
+        puffer_.reserve(std::min(kPufferGröße, size_t(std::max(einträge, 0)) * 512) + 64 * 1024);
+    }
     std::string& Puffer() { return puffer_; }
     // Eine Zeile mit CR LF; Werte ohne Umbrüche.
     void Zeile(std::string_view teil1, std::string_view wert = {}) {
@@ -165,7 +169,7 @@ std::string GenreAlsZahl(std::string_view text) {
 
 int IndexTextSchreiben(Kartei& k, int fd, bool mitFortschritt, bool& abgebrochen) {
     abgebrochen = false;
-    Schreiber s(fd);
+    Schreiber s(fd, k.DateiAnzahl);
     s.Zeile("#TAG:kk102");
     OptionenSchreiben(k, s);
     TermineSchreiben(k.Optionen, s);

@@ -4,6 +4,7 @@
 #include "app/FeldTabelle.h"
 #include "app/Kartei.h"
 #include "app/Pfade.h"
+#include "app/Texte.h"
 #include "app/Zahlen.h"
 #include "app/Zeitformat.h"
 #include "fileops/DateinamenFormatieren.h"
@@ -210,4 +211,29 @@ bool IndexFeldZurückgeben(const Kartei& k, int32_t nummer, const IndexFeld& fel
     case K::Unbekannt: return false;
     }
     return true;
+}
+
+bool IndexFeldSicht(const Kartei& k, int32_t nummer, const IndexFeld& feld, std::string_view& sicht) {
+    if (!k.DateiPfade.GültigerIndex(nummer) || !k.DateiDaten.GültigerIndex(nummer)) return false;
+    const DateiInfo& d = k.DateiDaten[nummer];
+    switch (feld.kennung) {
+    case K::Interpret:
+    case K::Titel:
+    case K::Album:
+    case K::Jahr:
+    case K::Kommentar:
+        sicht = d.Mp3_ID3v1_Status == 1 ? std::string_view(SpaltenText(d, feld.kennung)) : "";
+        return true;
+    case K::InterpretV2:
+    case K::TitelV2:
+    case K::AlbumV2:
+    case K::JahrV2:
+    case K::KommentarV2:
+        sicht = d.Mp3_ID3v2_Status == 1 ? std::string_view(SpaltenText(d, feld.kennung)) : "";
+        return true;
+    case K::Dateiname:
+        sicht = DateinameAusPfadSicht(k.DateiPfade[nummer]);
+        return IstGültigesUtf8(sicht);  // sonst wandelt PfadTextAnhängen um
+    default: return false;
+    }
 }

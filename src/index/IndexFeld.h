@@ -71,6 +71,9 @@ bool IndexFeldZurückgeben(const Kartei& k, int32_t nummer, std::string_view fel
 // tiefe zählt geschachtelte Muster; nur DateinamenFormatieren gibt sie weiter.
 bool IndexFeldZurückgeben(const Kartei& k, int32_t nummer, const IndexFeld& feld, bool sortierForm,
                           std::string& ergebnis, int16_t& art, int32_t tiefe = 0);
+// Der Text eines Feldes ohne Kopie, wo er unverändert im Datensatz oder im Pfad steht
+// (Tag-Felder, Dateiname in gültigem UTF-8); sonst false. Gleicher Text wie IndexFeldZurückgeben.
+bool IndexFeldSicht(const Kartei& k, int32_t nummer, const IndexFeld& feld, std::string_view& sicht);
 // Dasselbe für eine Spalte 1..30 der Spaltentabelle.
 bool IndexFeldZurückgeben(const Kartei& k, int32_t nummer, int32_t spalte, bool sortierForm, std::string& ergebnis,
                           int16_t& art);

@@ -42,11 +42,13 @@ template <typename Ziel> bool BereicheKopieren(const DateiRest& rest, Ziel&& zie
         fehler = errno;
         return false;
     }
-    std::string puffer(kBlock, '\0');
+    // Nicht größer als nötig: kleine Dateien kosten sonst je Schreiben ein ganzes MB.
+    std::string puffer(size_t(std::min<int64_t>(rest.Länge(), kBlock)), '\0');
     bool gut = true;
     for (const auto& b : rest.bereiche) {
         for (int64_t pos = b.anfang, ende = b.anfang + b.länge; gut && pos < ende;) {
-            ssize_t r = ::pread(ein, puffer.data(), static_cast<size_t>(std::min<int64_t>(ende - pos, kBlock)), pos);
+            ssize_t r = ::pread(ein, puffer.data(),
+                                static_cast<size_t>(std::min<int64_t>(ende - pos, int64_t(puffer.size()))), pos);
             if (r < 0 && errno == EINTR) continue;
             if (r <= 0) {  // Datei kürzer als erwartet: lieber abbrechen als Lücken schreiben
                 fehler = r < 0 ? errno : EIO;

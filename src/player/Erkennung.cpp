@@ -28,39 +28,68 @@ Teile Zerlegen(const std::string& aktuell) {
     return t;
 }
 
+bool NurAscii(std::string_view text) {
+    for (const char c : text)
+        if (static_cast<unsigned char>(c) >= 0x80) return false;
+    return true;
+}
+
+// teil ist schon klein; reiner ASCII-Text wird ohne Kopie verglichen.
+bool AsciiEnthältKlein(std::string_view text, std::string_view teil) {
+    if (teil.size() > text.size()) return false;
+    for (size_t i = 0; i + teil.size() <= text.size(); ++i) {
+        size_t j = 0;
+        while (j < teil.size() &&
+               (text[i + j] >= 'A' && text[i + j] <= 'Z' ? text[i + j] + 32 : text[i + j]) == teil[j])
+            ++j;
+        if (j == teil.size()) return true;
+    }
+    return false;
+}
+
+// Text eines Feldes: reines ASCII roh (noch nicht klein) oder klein gefaltet.
+struct Feldtext {
+    std::string_view text;
+    bool roh = false;
+};
+
+// Ergebnis wie Klein(text).find(teil) != npos; teil ist schon klein.
+bool Enthält(const Feldtext& f, std::string_view teil) {
+    return f.roh ? AsciiEnthältKlein(f.text, teil) : f.text.find(teil) != std::string_view::npos;
+}
+
 // Wiederverwendbare Puffer: Feld holen und klein machen, ohne je Eintrag neu anzulegen.
+// Die meisten Felder sind reines ASCII: die brauchen weder Kopie noch Faltung.
 struct FeldLeser {
     explicit FeldLeser(const Kartei& kartei) : k(kartei) {}
     const Kartei& k;
     std::string roh, klein;
     int16_t art = 0;
-    const std::string& Klein(int32_t nummer, const IndexFeld& feld) {
+    Feldtext Holen(int32_t nummer, const IndexFeld& feld) {
+        std::string_view sicht;
+        if (IndexFeldSicht(k, nummer, feld, sicht) && NurAscii(sicht)) return {sicht, true};
         IndexFeldZurückgeben(k, nummer, feld, true, roh, art);
         klein.clear();
         KleinAnhängen(klein, roh);
-        return klein;
+        return {klein, false};
+    }
+    bool Enthält(int32_t nummer, const IndexFeld& feld, std::string_view teil) {
+        return ::Enthält(Holen(nummer, feld), teil);
     }
 };
-
-bool Enthält(std::string_view text, std::string_view teil) { return text.find(teil) != std::string_view::npos; }
 
 // Stufe 1: Titel in "Titel" und Interpret in "Interpret", sonst beide in "Interpret-ID3v2".
 int32_t NachTags(Kartei& k, const Teile& t, const Datum& Jetzt) {
     const IndexFeld titel = IndexFeldVorbereiten("Titel"), interpret = IndexFeldVorbereiten("Interpret"),
                     interpret2 = IndexFeldVorbereiten("Interpret-ID3v2");
     FeldLeser leser(k);
-    std::string titelFeld;
     int32_t gefunden = 0;
     for (int32_t i = 1; i <= k.DateiAnzahl; ++i) {
         const DateiInfo& d = k.DateiDaten[i];
         if (d.Mp3_ID3v1_Status != 1 && d.Mp3_ID3v2_Status != 1) continue;
-        titelFeld = leser.Klein(i, titel);
-        bool passt = Enthält(titelFeld, t.titel) && Enthält(leser.Klein(i, interpret), t.interpret);
+        bool passt = leser.Enthält(i, titel, t.titel) && leser.Enthält(i, interpret, t.interpret);
         // "Titel-ID3v2" bleibt ungelesen: beide Teile werden gegen "Interpret-ID3v2" geprüft.
-        if (!passt) {
-            const std::string& v2 = leser.Klein(i, interpret2);
-            passt = Enthält(v2, t.titel) && Enthält(v2, t.interpret);
-        }
+        if (!passt) passt = leser.Enthält(i, interpret2, t.titel) && leser.Enthält(i, interpret2, t.interpret);
         if (!passt) continue;
         AbspielenZählen(k, i, Jetzt);
         ++gefunden;
@@ -76,8 +105,8 @@ int32_t NachDateinamen(Kartei& k, const Teile& t, const std::string& aktuell, co
     int32_t gefunden = 0;
     bool teilweise = false;
     for (int32_t i = 1; i <= k.DateiAnzahl; ++i) {
-        std::string_view name = leser.Klein(i, dateiname);
-        name.remove_suffix(DateiEndungSicht(name).size());
+        Feldtext name = leser.Holen(i, dateiname);
+        name.text.remove_suffix(DateiEndungSicht(name.text).size());
         if (Enthält(name, ganz)) {
             AbspielenZählen(k, i, Jetzt);
             ++gefunden;

@@ -2,6 +2,9 @@
 #include "reports/Aufraeumen.h"
 
 #include "app/Kartei.h"
+#include "app/Pfade.h"
+#include "app/Zahlen.h"
+#include "player/Abspielen.h"
 
 const std::vector<std::string>& AktionenTexte() {
     static const std::vector<std::string> texte = {"Keine Aktion", "Datei löschen", "Datei in Papierkorb",
@@ -48,4 +51,80 @@ bool AktionenBestätigen(Kartei& k, const Aufräumen& a) {
         text += " - " + std::to_string(zahl[code]) + worte[code] + "\n";
     text += "\nMöchten Sie diese Aktionen durchführen?";
     return k.ui.MeldungZeigen(text, Meldung::JaNeinFrage) == Meldung::Ja;
+}
+
+std::string GrößeFormat(int64_t bytes) {
+    // "##,##" hat keine Pflichtziffer: eine Null bleibt leer.
+    if (bytes == 0) return {};
+    std::string text;
+    TausenderFormatAnhängen(text, bytes);
+    return text;
+}
+
+namespace {
+// Was die beiden Dateien einer Zeile nach der Methode gemeinsam haben (bei einzelnen Dateien
+// die gespeicherte Größe).
+void GleichesSetzen(const Kartei& k, int16_t methode, int32_t p, TrefferDetails& d) {
+    const DateiInfo& x = k.DateiDaten[p];
+    switch (methode) {
+    case Suchmethode::Dateiname:
+        d.gleichÜberschrift = "Gleicher Dateiname:";
+        d.gleich = PfadText(DateinameAusPfadSicht(k.DateiPfade[p]));
+        break;
+    case Suchmethode::PfadUndDateiname:
+        d.gleichÜberschrift = "Gleicher Pfad- und Dateiname:";
+        d.gleich = PfadText(k.DateiPfade[p]);
+        break;
+    case Suchmethode::Id3v1Felder:
+        d.gleichÜberschrift = "Gleiche ID3v1-TAG-Felder <Interpret> - <Titel>:";
+        d.gleich = std::string(x.Mp3_ID3v1_Interpret) + " - " + std::string(x.Mp3_ID3v1_Titel);
+        break;
+    case Suchmethode::Id3v2Felder:
+        d.gleichÜberschrift = "Gleiche ID3v2-TAG-Felder <Interpret> - <Titel>:";
+        d.gleich = std::string(x.Mp3_ID3v2_TPE1) + " - " + std::string(x.Mp3_ID3v2_TIT2);
+        break;
+    default:
+        d.gleichÜberschrift =
+            methode == Suchmethode::Dateigröße ? "Gleiche Dateigröße (Bytes):" : "Dateigröße (Bytes):";
+        d.gleich = GrößeFormat(x.Datei_Größe);
+    }
+}
+
+bool Position(const Kartei& k, int32_t p) { return p >= 1 && p <= k.DateiAnzahl; }
+}  // namespace
+
+int32_t TrefferDatei(const Kartei& k, const Aufräumen& a, int32_t zeile, bool zweite) {
+    if (zeile < 0 || size_t(zeile) >= a.treffer.size()) return 0;
+    const int32_t p = zweite ? a.treffer[size_t(zeile)].datei2 : a.treffer[size_t(zeile)].datei1;
+    return Position(k, p) ? p : 0;
+}
+
+bool TrefferDetailsLesen(const Kartei& k, const Aufräumen& a, int32_t zeile, TrefferDetails& d) {
+    d = TrefferDetails{};
+    const int32_t p1 = TrefferDatei(k, a, zeile, false);
+    if (p1 == 0) return false;
+    const int32_t p2 = TrefferDatei(k, a, zeile, true);
+    const auto aktion = [&a](int32_t p) {
+        return size_t(p) < a.GefundenAktionen.size() ? a.GefundenAktionen[size_t(p)] : 0;
+    };
+    d.datei1 = "Dateiname - Eintrag " + std::to_string(p1);
+    d.dateiname1 = PfadText(k.DateiPfade[p1]);
+    d.aktion1 = aktion(p1);
+    d.zweiteSeite = p2 != 0;
+    if (d.zweiteSeite) {
+        d.datei2 = "Dateiname - Eintrag " + std::to_string(p2);
+        d.dateiname2 = PfadText(k.DateiPfade[p2]);
+        d.aktion2 = aktion(p2);
+    }
+    GleichesSetzen(k, a.Suchmethode, p1, d);
+    return true;
+}
+
+bool TrefferAbspielen(Kartei& k, const Aufräumen& a, int32_t zeile, bool zweite) {
+    const int32_t p = TrefferDatei(k, a, zeile, zweite);
+    if (p == 0) return false;
+    EinsBasiert<int32_t> dateien;
+    dateien.Anhängen(p);
+    AbspielenMediaPlayer(k, dateien, false, false, false, "");
+    return true;
 }

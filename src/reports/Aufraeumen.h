@@ -35,3 +35,26 @@ std::array<int32_t, Aktion::Anzahl> AktionenZählen(const Aufräumen& a);
 // cmdOk, Schritt 1 und 2: ohne Aktion eine Meldung und false; sonst die Frage mit den Zahlen,
 // true bei "Ja".
 bool AktionenBestätigen(Kartei& k, const Aufräumen& a);
+
+// cmdOk ab Schritt 3: prüfen, löschen, Papierkorb, nur aus dem Index, durch leere Dateien
+// ersetzen, Index anpassen – mit Fortschritt und Abbrechen. Ein Abbruch lässt die übrigen
+// Schritte auf dem Datenträger aus; was schon getan ist, bleibt getan, und der Index folgt ihm.
+// Was sich nicht löschen oder ersetzen ließ, bleibt im Index. Danach neue Suche und Statustext.
+// false: abgebrochen.
+bool AktionenAusführen(Kartei& k, const Aufräumen& a);
+
+// Das Detailfeld fraDetails zu einer Zeile der Trefferliste (ab 0).
+struct TrefferDetails {
+    std::string datei1, dateiname1, datei2, dateiname2;  // lblDatei1/2, lblDateiname1/2
+    std::string gleichÜberschrift, gleich;               // was beide gemeinsam haben
+    int32_t aktion1 = 0, aktion2 = 0;
+    bool zweiteSeite = false;  // nur bei Paaren gibt es eine rechte Datei
+};
+// false für eine Zeile außerhalb der Liste (d bleibt dann leer).
+bool TrefferDetailsLesen(const Kartei& k, const Aufräumen& a, int32_t zeile, TrefferDetails& d);
+// Die Indexposition der linken oder rechten Datei einer Zeile; 0, wenn es sie nicht gibt.
+int32_t TrefferDatei(const Kartei& k, const Aufräumen& a, int32_t zeile, bool zweite);
+// cmdAbspielen1/2 und der Doppelklick: diese eine Datei an den Spieler. false ohne Datei.
+bool TrefferAbspielen(Kartei& k, const Aufräumen& a, int32_t zeile, bool zweite);
+// Format "##,##": Tausenderpunkte; 0 ergibt einen leeren Text.
+std::string GrößeFormat(int64_t bytes);

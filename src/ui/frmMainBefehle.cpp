@@ -1,6 +1,7 @@
 // Die Befehle des Hauptfensters, die Liste mit Maus und Tastatur und die Kontextmenüs. Jeder
 // Befehl ist eine QAction (FensterBefehle); Verweis, Menü, Kontextmenü und Taste lösen sie aus.
 #include "app/Kartei.h"
+#include "player/Abspielen.h"
 #include "app/Ergebnisliste.h"
 #include "search/Hauptfenster.h"
 #include "ui/GuiOberflaeche.h"
@@ -193,7 +194,11 @@ void frmMain::cmdBeenden_Click() { close(); }
 
 void frmMain::cmdIndexStatistik_Click() { IndexStatistikZeigen(this, k_); }
 
-void frmMain::cmdIndexVerwaltung_Click() { IndexVerwaltungZeigen(this, k_); }
+// Auch ohne OK: im Tag-Editor der Infos kann sich schon etwas geändert haben.
+void frmMain::cmdIndexVerwaltung_Click() {
+    IndexVerwaltungZeigen(this, k_, ui_);
+    SucheNachlauf();
+}
 
 void frmMain::cmdExportieren_Click() {
     AuswahlAktualisieren();
@@ -221,9 +226,16 @@ void frmMain::cmdMp3TagAnzeigen_Click() {
 }
 
 void frmMain::cmdAutoDJ_Click() {
-    // Abspielen und Tag-Dialog fehlen noch; bis dahin sagen die Knöpfe es.
-    AutoDJBefehle befehle{[this](const std::vector<int32_t>&, bool) { NichtEingebaut(); },
-                          [this](const std::vector<int32_t>&) { NichtEingebaut(); }};
+    AutoDJBefehle befehle{[this](const std::vector<int32_t>& einträge, bool anhängen) {
+                              EinsBasiert<int32_t> dateien(int32_t(einträge.size()));
+                              for (size_t i = 0; i < einträge.size(); ++i) dateien[int32_t(i) + 1] = einträge[i];
+                              AbspielenMediaPlayer(k_, dateien, anhängen, false, false, "");
+                              ListeAnzeigen();
+                          },
+                          [this](const std::vector<int32_t>& einträge) {
+                              TagEditorZeigen(this, k_, ui_, einträge);
+                              SucheNachlauf();
+                          }};
     frmAutoDJ dialog(this, k_, std::move(befehle));
     ui_.DialogAusführen(dialog);
 }

@@ -194,3 +194,25 @@ TEST_F(EchterAudacious, Kommandozeile) {
     EXPECT_EQ(CliAufrufen(KK_CLI, o, {"player", "stop"}).rückgabe, 0);
     EXPECT_TRUE(Warten([&] { return Status() == "STOPPED"; }));
 }
+
+// Der Monitor der Kommandozeile läuft in Echtzeit: nach gut 30 Sekunden erkannt, einmal gezählt, gespeichert.
+// Ein neuer Index liest kein ID3v2: erkannt wird über den Dateinamen.
+TEST_F(EchterAudacious, MonitorErkenntZähltUndSpeichert) {
+    TestOrdner o;
+    const std::string lied = o / "Interpret 9 - Titel 9.mp3";
+    DateiSchreiben(lied, StilleMp3("Interpret 9", "Titel 9"));
+    ASSERT_EQ(CliAufrufen(KK_CLI, o, {"settings", "set", "WinampPfad", u_->k.E.WinampPfad}).rückgabe, 0);
+    ASSERT_EQ(CliMitIndex(KK_CLI, o, {"add", dateien_[0], lied}).rückgabe, 0);
+    ASSERT_EQ(CliMitIndex(KK_CLI, o, {"play", "--new", "--entry", "2"}).rückgabe, 0);
+    ASSERT_TRUE(Warten([&] { return Status() == "PLAYING"; }));
+    const CliErgebnis e = CliMitIndex(KK_CLI, o, {"monitor", "--seconds", "33"});
+    EXPECT_EQ(e.rückgabe, 0) << e.fehler;
+    EXPECT_EQ(e.aus,
+              "Audio-Player - 'Interpret 9 - Titel 9'\n"
+              "Die derzeit abgespielte Datei wurde 1 Mal erkannt\n"
+              "Audio-Player - 'Interpret 9 - Titel 9' - [Erkannt]\n");  // der Kopf folgt im nächsten Takt
+    const std::string eintrag = CliMitIndex(KK_CLI, o, {"show", "--entry", "2"}).aus;
+    EXPECT_NE(eintrag.find("Datei_AngefordertAnzahl=1\n"), std::string::npos) << eintrag;
+    EXPECT_NE(CliMitIndex(KK_CLI, o, {"show", "--entry", "1"}).aus.find("Datei_AngefordertAnzahl=0\n"),
+              std::string::npos);
+}

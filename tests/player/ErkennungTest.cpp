@@ -229,3 +229,24 @@ TEST(SpielerTakt, KnöpfeUndRegler) {
     cmdAbspielenStopp_Click(u.k);
     EXPECT_TRUE(u.spieler.gesendet.empty());
 }
+
+// Reines ASCII wird ohne Kopie verglichen, alles andere gefaltet: beide Wege müssen dasselbe finden.
+TEST(WinampDateiErkennen, GroßKleinWieFaltung) {
+    Index u;
+    const int32_t ascii = u.V1("/m/1.mp3", "KELVIN", "WELLE");
+    const int32_t kelvin = u.V1("/m/2.mp3", "\u212Aelvin", "Welle");  // Kelvin-Zeichen faltet zu "k"
+    const int32_t fremd = u.V1("/m/3.mp3", "Kelvín", "Welle");
+    u.Läuft("kelvin - welle", 0);
+    u.Läuft("kelvin - welle", 31);
+    EXPECT_EQ(u.Anzahl(ascii), 1);
+    EXPECT_EQ(u.Anzahl(kelvin), 1);
+    EXPECT_EQ(u.Anzahl(fremd), 0);
+
+    Index v;  // ungültiges UTF-8 im Namen: der umgewandelte Text wird verglichen
+    const int32_t roh = v.Eintrag("/m/KELVIN - WELLE \xff.mp3");
+    const int32_t kurz = v.Eintrag("/m/KELVIN.mp3");
+    v.Läuft("Kelvin - Welle", 0);
+    v.Läuft("Kelvin - Welle", 31);
+    EXPECT_EQ(v.Anzahl(roh), 1);
+    EXPECT_EQ(v.Anzahl(kurz), 0);
+}

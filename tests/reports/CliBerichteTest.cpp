@@ -1,6 +1,7 @@
 // Die Befehle export, stats und dupes: Dateien und Ausgaben Byte für Byte, Rückgabewerte.
 #include "BerichteHilfen.h"
 
+#include "app/Pfade.h"
 #include "index/IndexDatei.h"
 #include "support/CliAufruf.h"
 
@@ -78,5 +79,33 @@ TEST(CliBerichte, Dupes) {
     EXPECT_EQ(e.aus, "0 Datei(en) gefunden\n");
     for (const A& falsch :
          {A{"dupes"}, A{"dupes", "--methode", "10"}, A{"dupes", "--methode", "-1"}, A{"dupes", "--methode", "1", "x"}})
+        EXPECT_EQ(Cli(o, falsch).rückgabe, 2);
+}
+
+TEST(CliBerichte, DupesMitAktionen) {
+    TestOrdner o;
+    for (const char* n : {"m/lied.mp3", "n/lied.mp3", "m/x.txt", "n/x.txt"}) DateiSchreiben(o / n, n);
+    {
+        TestUmgebung u;
+        Neu(u.k, o / "m/lied.mp3");
+        Neu(u.k, o / "n/lied.mp3");
+        ASSERT_TRUE(DateiSpeichern(u.k, o / "i.kkt", false));
+    }
+    // Ohne --yes wird nichts getan: die Frage bekommt "Nein".
+    CliErgebnis e = Cli(o, {"dupes", "--methode", "0", "--aktion2", "4"});
+    EXPECT_EQ(e.rückgabe, 1);
+    EXPECT_EQ(e.aus, "'lied.mp3' und 'lied.mp3' haben die gleichen Dateinamen\n1 Datei(en) gefunden\n");
+    EXPECT_NE(e.fehler.find(" - 1 Datei(en) durch eine leere Datei mit anderer Datei-Endung ersetzen"),
+              std::string::npos);
+    EXPECT_EQ(DateiLesen(o / "n/lied.mp3"), "n/lied.mp3");
+
+    e = Cli(o, {"--yes", "dupes", "--methode", "0", "--aktion2", "4"});
+    EXPECT_EQ(e.rückgabe, 0) << e.fehler;
+    EXPECT_FALSE(DoesExist(o / "n/lied.mp3"));
+    EXPECT_EQ(DateiLesen(o / "n/lied.inanderemordner"), "");
+    EXPECT_EQ(Cli(o, {"show", "--count"}).aus, "DateiAnzahl=1\n");
+    EXPECT_EQ(Cli(o, {"dupes", "--methode", "5"}).aus, "0 Datei(en) gefunden\n");
+    for (const A& falsch : {A{"dupes", "--methode", "0", "--aktion1", "5"}, A{"dupes", "--methode", "0", "--aktion2"},
+                            A{"dupes", "--aktion1", "1"}})
         EXPECT_EQ(Cli(o, falsch).rückgabe, 2);
 }

@@ -1,10 +1,14 @@
 // Die Berichtsfenster: Index-Statistik und Exportieren, offscreen, mit Bildschirmfotos zum Ansehen.
 #include "UiTestHilfen.h"
 
+#include "app/Pfade.h"
 #include "app/Tabelle.h"
+#include "index/Dateitypen.h"
+#include "player/Abspielen.h"
 #include "reports/Export.h"
 #include "support/TestOrdner.h"
 #include "ui/dialoge/frmExportieren.h"
+#include "ui/dialoge/BerichteZeigen.h"
 #include "ui/dialoge/frmIndexVerwaltung.h"
 #include "ui/dialoge/frmStatistik.h"
 
@@ -13,7 +17,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QRadioButton>
+
+#include <sys/stat.h>
 
 namespace {
 DateiInfo& Eintrag(Kartei& k, const std::string& pfad) {
@@ -32,6 +39,8 @@ private slots:
     void StatistikZeigtVierZeilen();
     void ExportierenPrueftUndSchreibt();
     void IndexVerwaltungAktionJeDatei();
+    void IndexVerwaltungFuehrtAktionenAus();
+    void IndexVerwaltungBesitztFortschrittUndFragen();
 };
 
 void BerichteFensterTest::StatistikZeigtVierZeilen() {
@@ -106,6 +115,104 @@ void BerichteFensterTest::IndexVerwaltungAktionJeDatei() {
     QVERIFY(Drücken(f, "cmdOk"));
     QCOMPARE(u.meldungen.size(), size_t(1));
     QCOMPARE(f.Stand().GefundenAktionen, (std::vector<int32_t>{0, 0, 1, 0, 0}));
+}
+
+// Suchen, Detailfeld, Abspielen per Doppelklick, Infos, Aktionen geben und mit OK ausführen.
+void BerichteFensterTest::IndexVerwaltungFuehrtAktionenAus() {
+    GuiUmgebung u;
+    TestOrdner o;
+    DateitypenVorgabenEinsetzen(u.k.Optionen);
+    u.k.E.WinampPfad = o / "audacious";
+    DateiSchreiben(u.k.E.WinampPfad, "#!/bin/sh\n");
+    ::chmod(u.k.E.WinampPfad.c_str(), 0755);
+    u.spieler.fenster = 3;
+    DateiSchreiben(o / "a/bleibt.txt", "x");
+    for (const char* name : {"a/lied.mp3", "b/lied.mp3", "a/weg.mp3"}) DateiSchreiben(o / name, name);
+    Eintrag(u.k, o / "a/lied.mp3").Datei_Größe = 2048;
+    Eintrag(u.k, o / "b/lied.mp3");
+    Eintrag(u.k, o / "a/weg.mp3");
+    Eintrag(u.k, o / "fehlt.mp3");
+    frmIndexVerwaltung f(nullptr, u.k, {1, 2, 3, 4});
+    std::vector<int32_t> infos;
+    f.infosZeigen = [&infos](int32_t eintrag) { infos.push_back(eintrag); };
+    f.show();
+    auto* methode = f.findChild<QComboBox*>(QStringLiteral("cboSuchmethode"));
+    auto* liste = f.findChild<QListWidget*>(QStringLiteral("lstEinträge"));
+    auto* gleich = f.findChild<QLabel*>(QStringLiteral("lblGleich"));
+    QVERIFY(gleich && f.findChild<QLabel*>(QStringLiteral("lblGleichÜberschrift")));
+
+    // Eine Einzeldatei-Methode: die rechte Seite ist aus.
+    methode->setCurrentIndex(5);
+    QVERIFY(Drücken(f, "cmdSuchen"));
+    QCOMPARE(liste->count(), 1);
+    QCOMPARE(liste->item(0)->text(), QStringLiteral("'fehlt.mp3' existiert nicht"));
+    auto* cboAktion2 = f.findChild<QComboBox*>(QStringLiteral("cboAktion2"));
+    QVERIFY(!f.findChild<QPushButton*>(QStringLiteral("cmdAbspielen2"))->isEnabled());
+    QVERIFY(!cboAktion2->isEnabled());
+    QCOMPARE(f.findChild<QLabel*>(QStringLiteral("lblGewählt"))->text(), QStringLiteral("1 Dateien gewählt"));
+    // Ohne gewählte Zeile gibt es nichts, dem eine Aktion gelten könnte.
+    QVERIFY(Drücken(f, "cmdWählenKeine"));
+    QCOMPARE(f.findChild<QLabel*>(QStringLiteral("lblGewählt"))->text(), QStringLiteral("0 Dateien gewählt"));
+    QVERIFY(!f.findChild<QComboBox*>(QStringLiteral("cboAktion1"))->isEnabled());
+    QVERIFY(Drücken(f, "cmdWählenAlle"));
+    QVERIFY(f.findChild<QComboBox*>(QStringLiteral("cboAktion1"))->isEnabled());
+
+    // Ein Paar: Gleiches im Detailfeld, Infos der rechten Datei, Doppelklick spielt die linke.
+    methode->setCurrentIndex(0);
+    QVERIFY(Drücken(f, "cmdSuchen"));
+    QCOMPARE(liste->count(), 1);
+    QCOMPARE(gleich->text(), QStringLiteral("lied.mp3"));
+    QVERIFY(Drücken(f, "cmdInfos2"));
+    QCOMPARE(infos, std::vector<int32_t>{2});
+    const QRect zeile = liste->visualItemRect(liste->item(0));
+    // Qt wertet einen Doppelklick nur nach einem Druck auf dieselbe Zeile aus.
+    QTest::mouseClick(liste->viewport(), Qt::LeftButton, {}, zeile.center());
+    QTest::mouseDClick(liste->viewport(), Qt::LeftButton, {}, zeile.center());
+    const std::string m3u = DateiLesen(PlaylistPfad());
+    QVERIFY(m3u.find(o / "a/lied.mp3") != std::string::npos);
+    QVERIFY(m3u.find(o / "b/lied.mp3") == std::string::npos);
+    QVERIFY(cboAktion2->isEnabled());
+    cboAktion2->setCurrentIndex(1);
+    emit cboAktion2->activated(1);  // b/lied.mp3 löschen
+    Foto(f, "frmIndexVerwaltungDetails.png");
+
+    u.antworten = {Meldung::Ja, Meldung::Nein};  // ausführen; den leeren Ordner b behalten
+    QVERIFY(Drücken(f, "cmdOk"));
+    QCOMPARE(f.result(), int(QDialog::Accepted));
+    QCOMPARE(u.meldungen.size(), size_t(2));
+    QVERIFY(u.meldungen[0].text.find(" - 1 Datei(en) löschen und aus dem Index entfernen") != std::string::npos);
+    QCOMPARE(u.meldungen[1].text, "Der Ordner '" + o / "b" + "' ist (nun) leer.\n\nMöchten Sie diesen entfernen?");
+    QVERIFY(!DoesExist(o / "b/lied.mp3"));
+    QVERIFY(DoesExist(o / "a/lied.mp3"));
+    QCOMPARE(u.k.DateiAnzahl, 3);
+    QCOMPARE(u.k.DateiPfade[2], o / "a/weg.mp3");
+}
+
+// Über den Befehl des Hauptfensters geöffnet: solange der Dialog modal offen ist, stehen
+// Fortschritt und Meldungen über ihm (auch nach den Infos), danach wieder über dem Besitzer.
+void BerichteFensterTest::IndexVerwaltungBesitztFortschrittUndFragen() {
+    GuiUmgebung u;
+    TestOrdner o;
+    DateiSchreiben(o / "a.mp3", std::string(200, 'x'));
+    Eintrag(u.k, o / "a.mp3").Mp3_ID3v1_Status = 0;
+    u.k.Liste.lstSongs.zeilen.push_back({});
+    u.k.Liste.lstSongs.zeilen.back().eintrag = 1;
+    bool imDialog = false, beiDerSuche = false, nachInfos = false;
+    std::vector<std::string> fenster;
+    u.ui.dialogSkript = [&](QDialog& d) {
+        fenster.push_back(d.objectName().toStdString());
+        if (d.objectName() != QStringLiteral("frmIndexVerwaltung")) return;
+        imDialog = u.ui.SichtbarerBesitzer() == &d;
+        d.findChild<QComboBox*>(QStringLiteral("cboSuchmethode"))->setCurrentIndex(6);
+        Drücken(d, "cmdSuchen");
+        beiDerSuche = u.ui.SichtbarerBesitzer() == &d;
+        Drücken(d, "cmdInfos1");
+        nachInfos = u.ui.SichtbarerBesitzer() == &d;
+    };
+    QVERIFY(!IndexVerwaltungZeigen(nullptr, u.k, u.ui));
+    QCOMPARE(fenster, (std::vector<std::string>{"frmIndexVerwaltung", "frmMp3Tag"}));
+    QVERIFY(imDialog && beiDerSuche && nachInfos);
+    QVERIFY(!u.ui.vordergrund);
 }
 
 int BerichteFensterTestAusführen(int argc, char** argv) {

@@ -1,8 +1,10 @@
 #include "ui/dialoge/BerichteZeigen.h"
 
 #include "app/Kartei.h"
+#include "ui/GuiOberflaeche.h"
 #include "ui/dialoge/frmExportieren.h"
 #include "ui/dialoge/frmIndexVerwaltung.h"
+#include "ui/dialoge/frmMp3Tag.h"
 #include "ui/dialoge/frmStatistik.h"
 
 void IndexStatistikZeigen(QWidget* besitzer, const Kartei& k) {
@@ -17,9 +19,19 @@ void ExportierenZeigen(QWidget* besitzer, Kartei& k, const EinsBasiert<int32_t>&
     dialog.exec();
 }
 
-void IndexVerwaltungZeigen(QWidget* besitzer, Kartei& k) {
+bool IndexVerwaltungZeigen(QWidget* besitzer, Kartei& k, GuiOberfläche& ui) {
     std::vector<int32_t> liste;
     for (const auto& zeile : k.Liste.lstSongs.zeilen) liste.push_back(zeile.eintrag);
     frmIndexVerwaltung dialog(besitzer, k, std::move(liste));
-    dialog.exec();
+    // Solange der Dialog modal offen ist, gehören ihm Fortschritt und Meldungen der Suche; sonst
+    // wäre "Abbrechen" des Fortschritts hinter ihm gesperrt.
+    const QPointer<QWidget> vorher = ui.vordergrund;
+    ui.vordergrund = &dialog;
+    dialog.infosZeigen = [&dialog, &k, &ui](int32_t eintrag) {
+        TagEditorZeigen(&dialog, k, ui, {eintrag});
+        ui.vordergrund = &dialog;
+    };
+    const bool ausgeführt = ui.DialogAusführen(dialog) == QDialog::Accepted;
+    ui.vordergrund = vorher;
+    return ausgeführt;
 }

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+#include <functional>
 #include <vector>
 
 struct Kartei;
@@ -22,11 +23,14 @@ public:
     frmIndexVerwaltung& operator=(const frmIndexVerwaltung&) = delete;
 
     const Aufräumen& Stand() const { return a_; }
+    // cmdInfos1/2: das Informationsfenster (den Tag-Editor) für diesen Eintrag öffnen.
+    std::function<void(int32_t eintrag)> infosZeigen;
 
 private:
     void cmdSuchen_Click();
     void lstEinträge_Auswahl();
     void cboAktion_Click(bool zweite, int code);
+    void cmdInfos_Click(bool zweite);
     void Wählen(int wie);  // 0 alle, 1 keine, 2 umkehren
     void cmdOk_Click();
     std::vector<int32_t> GewählteZeilen() const;
@@ -39,6 +43,7 @@ private:
     QListWidget* lstEinträge_;
     QLabel *lblGefundenAnzahl_, *lblGewählt_;
     QGroupBox* fraDetails_;
-    QLabel *lblDatei1_, *lblDatei2_, *lblDateiname1_, *lblDateiname2_;
+    QLabel *lblDatei1_, *lblDatei2_, *lblDateiname1_, *lblDateiname2_, *lblGleichÜberschrift_, *lblGleich_;
     QComboBox *cboAktion1_, *cboAktion2_;
+    QPushButton *cmdAbspielen2_, *cmdInfos2_;
 };
