@@ -21,8 +21,7 @@
 class KText;
 // Alles, was sich als string_view lesen lässt, außer KText selbst. (Ohne concept: moc liest
 // diesen Kopf über DateiInfo.h mit und versteht <concepts> nicht.)
-template <typename T>
-inline constexpr bool IstTextArtig =
+template <typename T> inline constexpr bool IstTextArtig =
     std::is_convertible_v<const T&, std::string_view> && !std::is_same_v<std::remove_cvref_t<T>, KText>;
 
 // Speicher der Texte: Griff → Anfang des abgelegten Textes; Ablegen gibt den Griff (0 = leer).
@@ -57,7 +56,7 @@ public:
     size_t length() const { return size(); }
     const char* data() const { return sicht().data(); }
     const char* c_str() const { return data(); }  // der Speicher schließt jeden Text mit NUL ab
-    std::string_view sicht() const;  // bleibt gültig bis zum Ende des Prozesses
+    std::string_view sicht() const;               // bleibt gültig bis zum Ende des Prozesses
     std::string str() const { return std::string(sicht()); }
     operator std::string_view() const { return sicht(); }
     operator std::string() const { return str(); }
@@ -82,7 +81,9 @@ public:
 
     friend bool operator==(const KText& a, const KText& b) { return a.griff_ == b.griff_ || a.sicht() == b.sicht(); }
     template <typename T, std::enable_if_t<IstTextArtig<T>, int> = 0>
-    friend bool operator==(const KText& a, const T& b) { return a.sicht() == std::string_view(b); }
+    friend bool operator==(const KText& a, const T& b) {
+        return a.sicht() == std::string_view(b);
+    }
     friend auto operator<=>(const KText& a, const KText& b) { return a.sicht() <=> b.sicht(); }
     template <typename T, std::enable_if_t<IstTextArtig<T>, int> = 0>
     friend auto operator<=>(const KText& a, const T& b) {

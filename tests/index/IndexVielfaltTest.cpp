@@ -38,8 +38,8 @@ void Bunt(DateiInfo& d, KText& pfad, int32_t i) {
 
 // Der Text der Standardsuche, ASCII-klein: für ein ASCII-Suchwort genügt das als Gegenprobe.
 std::string SuchtextGegenprobe(const DateiInfo& d, const std::string& pfad) {
-    std::string t = d.Mp3_ID3v2_TPE1 + " " + d.Mp3_ID3v2_TIT2 + " " + d.Mp3_ID3v1_Interpret + " " +
-                    d.Mp3_ID3v1_Titel + " " + d.Mp3_ID3v1_Album + " " + pfad;
+    std::string t = d.Mp3_ID3v2_TPE1 + " " + d.Mp3_ID3v2_TIT2 + " " + d.Mp3_ID3v1_Interpret + " " + d.Mp3_ID3v1_Titel +
+                    " " + d.Mp3_ID3v1_Album + " " + pfad;
     for (char& z : t)
         if (z >= 'A' && z <= 'Z') z = char(z - 'A' + 'a');
     return t;
