@@ -3,6 +3,7 @@
 //   kk_bench_index --erzeugen PFAD ANZAHL   schreibt einen erfundenen Index
 //   kk_bench_index --laden PFAD             lädt ihn und nennt den höchsten Speicherbedarf (RSS)
 //   kk_bench_index --rundreise PFAD ZIEL    lädt, speichert nach ZIEL und vergleicht die Bytes
+//     (PFAD schon einmal vom Programm gespeichert: beim ersten Laden kommt die Spaltenbeschreibung dazu)
 #include "app/Kartei.h"
 #include "index/IndexDatei.h"
 #include "support/Attrappen.h"
