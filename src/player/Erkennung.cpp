@@ -7,7 +7,11 @@
 #include "app/Zahlen.h"
 #include "index/IndexFeld.h"
 
+#include <algorithm>
 #include <string_view>
+#include <system_error>
+#include <thread>
+#include <vector>
 
 namespace {
 // Die Regel des Programms: länger als 30 Sekunden gespielt.
@@ -67,10 +71,14 @@ struct FeldLeser {
     int16_t art = 0;
     Feldtext Holen(int32_t nummer, const IndexFeld& feld) {
         std::string_view sicht;
-        if (IndexFeldSicht(k, nummer, feld, sicht) && NurAscii(sicht)) return {sicht, true};
-        IndexFeldZurückgeben(k, nummer, feld, true, roh, art);
+        const bool direkt = IndexFeldSicht(k, nummer, feld, sicht);
+        if (direkt && NurAscii(sicht)) return {sicht, true};
+        if (!direkt) {
+            IndexFeldZurückgeben(k, nummer, feld, true, roh, art);
+            sicht = roh;
+        }
         klein.clear();
-        KleinAnhängen(klein, roh);
+        KleinAnhängen(klein, sicht);
         return {klein, false};
     }
     bool Enthält(int32_t nummer, const IndexFeld& feld, std::string_view teil) {
@@ -78,20 +86,45 @@ struct FeldLeser {
     }
 };
 
+// Prüft alle Einträge, bei großen Indexen auf zwei Threads; gezählt wird danach der Reihe nach.
+// Lesen aus der Tabelle ist aus mehreren Threads erlaubt; jeder Thread hat eigene Puffer.
+template <typename Prüfen> std::vector<uint8_t> AllePrüfen(const Kartei& k, const Prüfen& prüfen) {
+    const int32_t n = std::max(0, std::min({k.DateiAnzahl, k.DateiDaten.UBound(), k.DateiPfade.UBound()}));
+    std::vector<uint8_t> art(size_t(n) + 1, 0);
+    const auto teil = [&](int32_t von, int32_t bis) {
+        FeldLeser leser(k);
+        for (int32_t i = von; i <= bis; ++i) art[size_t(i)] = prüfen(leser, i);
+    };
+    constexpr int32_t kAbTeilen = 20000;  // darunter kostet der Thread mehr, als er spart
+    if (n < kAbTeilen || std::thread::hardware_concurrency() < 2) {
+        teil(1, n);
+        return art;
+    }
+    try {
+        std::thread zweiter(teil, n / 2 + 1, n);
+        teil(1, n / 2);
+        zweiter.join();
+    } catch (const std::system_error&) {  // kein Thread zu haben: allein weiter
+        teil(1, n);
+    }
+    return art;
+}
+
 // Stufe 1: Titel in "Titel" und Interpret in "Interpret", sonst beide in "Interpret-ID3v2".
 int32_t NachTags(Kartei& k, const Teile& t, const Datum& Jetzt) {
     const IndexFeld titel = IndexFeldVorbereiten("Titel"), interpret = IndexFeldVorbereiten("Interpret"),
                     interpret2 = IndexFeldVorbereiten("Interpret-ID3v2");
-    FeldLeser leser(k);
-    int32_t gefunden = 0;
-    for (int32_t i = 1; i <= k.DateiAnzahl; ++i) {
+    const auto art = AllePrüfen(k, [&](FeldLeser& leser, int32_t i) -> uint8_t {
         const DateiInfo& d = k.DateiDaten[i];
-        if (d.Mp3_ID3v1_Status != 1 && d.Mp3_ID3v2_Status != 1) continue;
-        bool passt = leser.Enthält(i, titel, t.titel) && leser.Enthält(i, interpret, t.interpret);
+        if (d.Mp3_ID3v1_Status != 1 && d.Mp3_ID3v2_Status != 1) return 0;
+        if (leser.Enthält(i, titel, t.titel) && leser.Enthält(i, interpret, t.interpret)) return 1;
         // "Titel-ID3v2" bleibt ungelesen: beide Teile werden gegen "Interpret-ID3v2" geprüft.
-        if (!passt) passt = leser.Enthält(i, interpret2, t.titel) && leser.Enthält(i, interpret2, t.interpret);
-        if (!passt) continue;
-        AbspielenZählen(k, i, Jetzt);
+        return leser.Enthält(i, interpret2, t.titel) && leser.Enthält(i, interpret2, t.interpret);
+    });
+    int32_t gefunden = 0;
+    for (size_t i = 1; i < art.size(); ++i) {
+        if (art[i] == 0) continue;
+        AbspielenZählen(k, int32_t(i), Jetzt);
         ++gefunden;
     }
     return gefunden;
@@ -99,20 +132,24 @@ int32_t NachTags(Kartei& k, const Teile& t, const Datum& Jetzt) {
 
 // Stufe 2: der Dateiname ohne Endung enthält den ganzen Titel oder (höchstens einmal) beide Teile.
 int32_t NachDateinamen(Kartei& k, const Teile& t, const std::string& aktuell, const Datum& Jetzt) {
+    constexpr uint8_t kGanz = 1, kLose = 2;
     const IndexFeld dateiname = IndexFeldVorbereiten("Dateiname");
     const std::string ganz = Klein(aktuell);
-    FeldLeser leser(k);
-    int32_t gefunden = 0;
-    bool teilweise = false;
-    for (int32_t i = 1; i <= k.DateiAnzahl; ++i) {
+    const auto art = AllePrüfen(k, [&](FeldLeser& leser, int32_t i) -> uint8_t {
         Feldtext name = leser.Holen(i, dateiname);
         name.text.remove_suffix(DateiEndungSicht(name.text).size());
-        if (Enthält(name, ganz)) {
-            AbspielenZählen(k, i, Jetzt);
+        if (Enthält(name, ganz)) return kGanz;
+        return Enthält(name, t.titel) && Enthält(name, t.interpret) ? kLose : 0;
+    });
+    int32_t gefunden = 0;
+    bool teilweise = false;
+    for (size_t i = 1; i < art.size(); ++i) {
+        if (art[i] == kGanz) {
+            AbspielenZählen(k, int32_t(i), Jetzt);
             ++gefunden;
             teilweise = true;
-        } else if (Enthält(name, t.titel) && Enthält(name, t.interpret) && gefunden == 0 && !teilweise) {
-            AbspielenZählen(k, i, Jetzt);
+        } else if (art[i] == kLose && gefunden == 0 && !teilweise) {
+            AbspielenZählen(k, int32_t(i), Jetzt);
             gefunden = 1;
         }
     }

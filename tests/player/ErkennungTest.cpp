@@ -250,3 +250,21 @@ TEST(WinampDateiErkennen, GroßKleinWieFaltung) {
     EXPECT_EQ(v.Anzahl(roh), 1);
     EXPECT_EQ(v.Anzahl(kurz), 0);
 }
+
+// Große Indexe werden auf zwei Threads geprüft; gezählt wird trotzdem in Eintragsfolge:
+// die lose Regel greift nur für den ersten Treffer vor jedem ganzen.
+TEST(WinampDateiErkennen, GroßerIndexZähltInEintragsfolge) {
+    Index u;
+    for (int32_t i = 1; i <= 30000; ++i) u.Eintrag("/m/lied " + std::to_string(i) + ".mp3");
+    u.k.DateiPfade[5] = "/m/Titel von Interpret.mp3";
+    u.k.DateiPfade[25000] = "/m/Interpret - Titel.mp3";
+    u.k.DateiPfade[26000] = "/m/Titel, Interpret.mp3";
+    u.k.DateiPfade[29999] = "/m/02 INTERPRET - TITEL.ogg";
+    u.Läuft("Interpret - Titel", 0);
+    u.Läuft("Interpret - Titel", 31);
+    EXPECT_EQ(u.Anzahl(5), 1);
+    EXPECT_EQ(u.Anzahl(25000), 1);
+    EXPECT_EQ(u.Anzahl(26000), 0);
+    EXPECT_EQ(u.Anzahl(29999), 1);
+    EXPECT_EQ(u.ui.titelTexte.back(), "Die derzeit abgespielte Datei wurde 3 Mal erkannt");
+}
