@@ -104,11 +104,18 @@ uint32_t KTextAblegen(std::string_view text) {
 size_t KTextSpeicherBytes() { return gBytes.load(std::memory_order_relaxed); }
 
 void KTextSpeicherZurücksetzen() {
+    // Der laufende Block des Threads bleibt als Block 1 stehen: ein neuer kostete je Lauf 4 MB.
+    const uint32_t behalten = tBlock.nummer;
+    char* weiter = behalten != 0 ? gBlöcke[behalten].exchange(nullptr) : nullptr;
     const uint32_t benutzt = std::min(gNächsterBlock.load(), kBlöcke);
     for (uint32_t i = 1; i < benutzt; ++i) std::free(gBlöcke[i].exchange(nullptr));
-    gNächsterBlock.store(1);
-    gBytes.store(0);
     tBlock = ThreadBlock{};
+    gNächsterBlock.store(weiter ? 2 : 1);
+    gBytes.store(weiter ? kBlockGröße : 0);
+    if (!weiter) return;
+    gBlöcke[1].store(weiter);
+    tBlock.nummer = 1;
+    tBlock.stelle = 0;
 }
 
 std::ostream& operator<<(std::ostream& aus, const KText& t) { return aus << t.sicht(); }

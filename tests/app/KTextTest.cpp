@@ -121,3 +121,23 @@ TEST(KText, ZweiThreadsLegenZugleichAb) {
         ASSERT_EQ(rechts[size_t(i)], std::string("R") + std::to_string(i) + std::string(size_t(i % 300), 'R'));
     }
 }
+
+// Zurücksetzen (nur für Fuzz-Ziele) behält den laufenden Block: danach abgelegte Texte stimmen,
+// auch lange in eigenen Blöcken. Im eigenen Prozess, weil es alle Texte des Prozesses ungültig macht.
+TEST(KText, ZurücksetzenBehältEinenBlockUndLegtRichtigAb) {
+    EXPECT_EXIT(
+        {
+            for (int i = 0; i < 3; ++i) {
+                const KText kurz(std::string("Lauf ") + std::to_string(i));
+                const KText lang(std::string(size_t(2) << 20, char('a' + i)));
+                if (kurz.sicht() != "Lauf " + std::to_string(i) || lang.size() != (size_t(2) << 20) ||
+                    lang[7] != 'a' + i)
+                    std::exit(1);
+                KTextSpeicherZurücksetzen();
+                if (KTextSpeicherBytes() != (size_t(4) << 20)) std::exit(2);
+            }
+            const KText danach("Jahr 2024");
+            std::exit(danach == std::string_view("Jahr 2024") && danach.Griff() != 0 ? 0 : 3);
+        },
+        ::testing::ExitedWithCode(0), "");
+}
